@@ -1,0 +1,146 @@
+#include "DataRoot.h"
+
+#include "StoreError.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+namespace ostrel {
+
+struct DataRoot::Listing {
+    timespec modified{};
+    bool valid = false;
+    QHash<QString, QString> byFoldedName; // case-folded name -> name on disk
+};
+
+namespace {
+
+DataRoot::Entry statPath(const QString& path) {
+    DataRoot::Entry e;
+    e.path = path;
+    struct stat st {};
+    if (::stat(QFile::encodeName(path).constData(), &st) != 0) return e;
+    e.size = st.st_size;
+    e.kind = S_ISREG(st.st_mode)   ? DataRoot::Kind::File
+             : S_ISDIR(st.st_mode) ? DataRoot::Kind::Directory
+                                   : DataRoot::Kind::Other;
+    return e;
+}
+
+bool sameTime(const timespec& a, const timespec& b) { return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec; }
+
+} // namespace
+
+DataRoot::DataRoot(const QString& rootDirectory)
+    : m_root(QDir::cleanPath(QDir(rootDirectory).absolutePath())) {}
+
+DataRoot::~DataRoot() = default;
+
+QStringList DataRoot::parts(QStringView name) {
+    QStringList out;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= name.size(); ++i) {
+        if (i < name.size() && name[i] != u'/' && name[i] != u'\\') continue;
+        const QStringView part = name.mid(start, i - start);
+        start = i + 1;
+        if (part.isEmpty() || part == u".") continue;
+        if (part == u".." || part.contains(QChar(0)))
+            throw StoreError(name.toString(), QStringLiteral("This name would reach outside the data folder."));
+        out.append(part.toString());
+    }
+    return out;
+}
+
+const DataRoot::Listing& DataRoot::listing(const QString& directory) const {
+    auto& slot = m_listings[directory];
+    if (!slot) slot = std::make_shared<Listing>();
+    struct stat st {};
+    const QByteArray native = QFile::encodeName(directory);
+    if (::stat(native.constData(), &st) != 0) {
+        slot->valid = false;
+        slot->byFoldedName.clear();
+        return *slot;
+    }
+    if (slot->valid && sameTime(slot->modified, st.st_mtim)) return *slot;
+    slot->byFoldedName.clear();
+    slot->modified = st.st_mtim;
+    slot->valid = true;
+    if (DIR* d = ::opendir(native.constData())) {
+        while (dirent* de = ::readdir(d)) {
+            const QString n = QFile::decodeName(de->d_name);
+            if (n == u"." || n == u"..") continue;
+            slot->byFoldedName.insert(n.toCaseFolded(), n); // first spelling met wins
+        }
+        ::closedir(d);
+    }
+    return *slot;
+}
+
+void DataRoot::noteChange(const QString& fullPath, bool created) const {
+    m_listings.remove(fullPath); // a removed or replaced directory of its own
+    const qsizetype cut = fullPath.lastIndexOf(u'/');
+    if (cut <= 0) return;
+    const auto it = m_listings.constFind(fullPath.left(cut));
+    if (it == m_listings.cend() || !(*it)->valid) return;
+    Listing& l = **it;
+    struct stat st {};
+    if (::stat(QFile::encodeName(fullPath.left(cut)).constData(), &st) != 0) {
+        l.valid = false;
+        return;
+    }
+    l.modified = st.st_mtim;
+    const QString name = fullPath.mid(cut + 1);
+    if (created)
+        l.byFoldedName.insert(name.toCaseFolded(), name);
+    else if (l.byFoldedName.value(name.toCaseFolded()) == name)
+        l.byFoldedName.remove(name.toCaseFolded());
+}
+
+DataRoot::Entry DataRoot::resolve(QStringView name) const {
+    const QStringList ps = parts(name);
+    QString exact = m_root;
+    for (const QString& p : ps) exact += u'/' + p;
+    Entry e = statPath(exact);
+    if (e.exists() || ps.isEmpty()) return e;
+
+    // Not there as spelled: walk the parts and match each against its directory's listing.
+    QString current = m_root;
+    for (qsizetype i = 0; i < ps.size(); ++i) {
+        const QString& p = ps[i];
+        QString candidate = current + u'/' + p;
+        Entry step = statPath(candidate);
+        if (!step.exists()) {
+            const Listing& l = listing(current);
+            const auto it = l.byFoldedName.constFind(p.toCaseFolded());
+            if (it == l.byFoldedName.cend()) {
+                // Nothing of this name: the rest keeps the spelling it was given.
+                for (qsizetype j = i + 1; j < ps.size(); ++j) candidate += u'/' + ps[j];
+                Entry missing;
+                missing.path = candidate;
+                return missing;
+            }
+            candidate = current + u'/' + *it;
+            step = statPath(candidate);
+        }
+        if (i + 1 == ps.size()) return step;
+        if (!step.isDirectory()) {
+            for (qsizetype j = i + 1; j < ps.size(); ++j) candidate += u'/' + ps[j];
+            Entry missing;
+            missing.path = candidate;
+            return missing;
+        }
+        current = candidate;
+    }
+    return e;
+}
+
+QStringList DataRoot::list(QStringView name) const {
+    const Entry e = resolve(name);
+    if (!e.isDirectory()) return {};
+    return QDir(e.path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
+}
+
+} // namespace ostrel

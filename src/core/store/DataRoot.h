@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace ostrel {
+
+// The one place where a data name ("/AuxFiles\\123/AuxFile0") becomes a file system path.
+// Both separators are accepted, each part is matched against the disk without regard to case,
+// and no name can reach outside the root.
+class DataRoot {
+public:
+    enum class Kind { Missing, File, Directory, Other };
+
+    struct Entry {
+        QString path; // full path, with the disk's spelling of every part that exists
+        Kind kind = Kind::Missing;
+        qint64 size = 0;
+        bool isFile() const { return kind == Kind::File; }
+        bool isDirectory() const { return kind == Kind::Directory; }
+        bool exists() const { return kind != Kind::Missing; }
+    };
+
+    explicit DataRoot(const QString& rootDirectory);
+    ~DataRoot();
+    DataRoot(const DataRoot&) = delete;
+    DataRoot& operator=(const DataRoot&) = delete;
+
+    const QString& root() const { return m_root; }
+
+    // Splits a data name into its parts; throws StoreError for a part that would leave the root.
+    static QStringList parts(QStringView name);
+
+    // The entry a data name stands for. Throws StoreError for a name that would leave the root.
+    Entry resolve(QStringView name) const;
+    QString path(QStringView name) const { return resolve(name).path; }
+
+    // Keep the case-insensitive look-up current when this program adds or removes an entry, without
+    // listing a large directory again.
+    void noteCreated(const QString& fullPath) const { noteChange(fullPath, true); }
+    void noteRemoved(const QString& fullPath) const { noteChange(fullPath, false); }
+
+    // The names in a directory, as on disk (empty when it is not a directory).
+    QStringList list(QStringView name) const;
+
+private:
+    struct Listing;
+    const Listing& listing(const QString& directory) const;
+    void noteChange(const QString& fullPath, bool created) const;
+
+    QString m_root;
+    mutable QHash<QString, std::shared_ptr<Listing>> m_listings;
+};
+
+} // namespace ostrel

@@ -1,0 +1,258 @@
+#include "DiskRoutines.h"
+
+#include "StoreError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cmath>
+#include <cstring>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ostrel {
+
+namespace {
+QString systemError() { return QString::fromLocal8Bit(std::strerror(errno)); }
+const QString kBackup = QStringLiteral("/Backup");
+} // namespace
+
+DiskRoutines::~DiskRoutines() {
+    try {
+        CloseAllFiles();
+    } catch (const StoreError&) {
+        // Nothing can be reported any more; what was committed is on disk.
+    }
+}
+
+bool DiskRoutines::FileExists(const QString& name) {
+    if (m_root.resolve(name).isFile()) return true;
+    if (!m_root.resolve(kBackup + name).isFile()) return false;
+    CopyDataFile(kBackup + name, name);
+    return true;
+}
+
+qint16 DiskRoutines::FileRecordCount(const QString& name, qint16 recordLength) {
+    if (!FileExists(name)) return 0;
+    if (recordLength <= 0) throw StoreError(name, QStringLiteral("The record length must be positive."));
+    const qint64 size = m_root.resolve(name).size;
+    const double count = std::nearbyint(static_cast<double>(size) / recordLength);
+    if (count > 32767)
+        throw StoreError(name, QStringLiteral("The file holds more than 32,767 records, the most it may hold."));
+    return static_cast<qint16>(count);
+}
+
+int DiskRoutines::FreeFile() const {
+    int n = 1;
+    while (m_channels.count(n)) ++n;
+    return n;
+}
+
+int DiskRoutines::openChannel(std::unique_ptr<Channel> ch) {
+    const int n = FreeFile();
+    m_channels.emplace(n, std::move(ch));
+    return n;
+}
+
+DiskRoutines::Channel& DiskRoutines::channel(int number, const char* kind) {
+    const auto it = m_channels.find(number);
+    if (it == m_channels.end())
+        throw StoreError(QString(), QStringLiteral("Channel %1 is not open for %2.").arg(number).arg(QLatin1String(kind)));
+    return *it->second;
+}
+
+TextReader& DiskRoutines::Input(int n) {
+    Channel& c = channel(n, "input");
+    if (c.mode != Channel::Mode::Input) throw StoreError(c.name, QStringLiteral("The file is not open for input."));
+    return c.reader;
+}
+TextWriter& DiskRoutines::Output(int n) {
+    Channel& c = channel(n, "output");
+    if (c.mode != Channel::Mode::Output && c.mode != Channel::Mode::Append)
+        throw StoreError(c.name, QStringLiteral("The file is not open for output."));
+    return c.writer;
+}
+RandomFile& DiskRoutines::Random(int n) {
+    Channel& c = channel(n, "records");
+    if (c.mode != Channel::Mode::Random) throw StoreError(c.name, QStringLiteral("The file is not open for records."));
+    return *c.random;
+}
+
+TextReader DiskRoutines::ReadTextFile(const QString& name) {
+    const DataRoot::Entry e = m_root.resolve(name);
+    if (!e.isFile()) throw StoreError(name, QStringLiteral("File not found."));
+    QFile f(e.path);
+    if (!f.open(QIODevice::ReadOnly))
+        throw StoreError(name, QStringLiteral("The file cannot be opened: ") + f.errorString());
+    return TextReader(f.readAll(), name);
+}
+
+TextReader& DiskRoutines::OpenForInput(const QString& name) {
+    auto ch = std::make_unique<Channel>();
+    ch->mode = Channel::Mode::Input;
+    ch->name = name;
+    ch->reader = ReadTextFile(name);
+    PrimaryChannel = static_cast<qint16>(openChannel(std::move(ch)));
+    return m_channels.at(PrimaryChannel)->reader;
+}
+
+DataRoot::Entry DiskRoutines::writableTarget(const QString& name) const {
+    const DataRoot::Entry e = m_root.resolve(name);
+    if (e.isDirectory()) throw StoreError(name, QStringLiteral("A folder of that name is in the way."));
+    const QString parent = e.path.left(e.path.lastIndexOf(u'/'));
+    struct stat st {};
+    if (::stat(QFile::encodeName(parent).constData(), &st) != 0 || !S_ISDIR(st.st_mode))
+        throw StoreError(name, QStringLiteral("The folder that should hold this file does not exist."));
+    return e;
+}
+
+TextWriter& DiskRoutines::OpenForOutput(const QString& name) {
+    auto ch = std::make_unique<Channel>();
+    ch->mode = Channel::Mode::Output;
+    ch->name = name;
+    ch->target = writableTarget(name);
+    PrimaryChannel = static_cast<qint16>(openChannel(std::move(ch)));
+    return m_channels.at(PrimaryChannel)->writer;
+}
+
+TextWriter& DiskRoutines::OpenForAppend(const QString& name) {
+    CloseAllFiles();
+    auto ch = std::make_unique<Channel>();
+    ch->mode = Channel::Mode::Append;
+    ch->name = name;
+    ch->target = writableTarget(name);
+    PrimaryChannel = static_cast<qint16>(openChannel(std::move(ch)));
+    return m_channels.at(PrimaryChannel)->writer;
+}
+
+RandomFile& DiskRoutines::OpenRandom(const QString& name, int recordLength) {
+    auto ch = std::make_unique<Channel>();
+    ch->mode = Channel::Mode::Random;
+    ch->name = name;
+    ch->target = writableTarget(name);
+    const bool created = !ch->target.exists();
+    ch->random = std::make_unique<RandomFile>(ch->target.path, name, recordLength);
+    if (created) m_root.noteCreated(ch->target.path);
+    PrimaryChannel = static_cast<qint16>(openChannel(std::move(ch)));
+    return *m_channels.at(PrimaryChannel)->random;
+}
+
+RandomFile& DiskRoutines::OpenRandomSecondary(const QString& name, int recordLength) {
+    const qint16 primary = PrimaryChannel;
+    RandomFile& f = OpenRandom(name, recordLength);
+    SecondaryChannel = PrimaryChannel;
+    PrimaryChannel = primary;
+    return f;
+}
+
+void DiskRoutines::writeWhole(const DataRoot::Entry& target, const QString& name, const QByteArray& bytes) {
+    QSaveFile f(target.path);
+    if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size() || !f.commit())
+        throw StoreError(name, QStringLiteral("The file could not be written: ") + f.errorString());
+    if (!target.exists()) m_root.noteCreated(target.path);
+}
+
+void DiskRoutines::commit(Channel& c) {
+    switch (c.mode) {
+    case Channel::Mode::Input:
+        break;
+    case Channel::Mode::Output:
+        writeWhole(c.target, c.name, c.writer.bytes());
+        break;
+    case Channel::Mode::Append: {
+        QFile f(c.target.path);
+        if (!f.open(QIODevice::WriteOnly | QIODevice::Append) || f.write(c.writer.bytes()) != c.writer.bytes().size() ||
+            !f.flush())
+            throw StoreError(c.name, QStringLiteral("The file could not be written: ") + f.errorString());
+        if (!c.target.exists()) m_root.noteCreated(c.target.path);
+        break;
+    }
+    case Channel::Mode::Random:
+        c.random->close();
+        break;
+    }
+}
+
+void DiskRoutines::Close(int number) {
+    const auto it = m_channels.find(number);
+    if (it == m_channels.end()) return;
+    std::unique_ptr<Channel> c = std::move(it->second);
+    m_channels.erase(it);
+    commit(*c);
+}
+
+void DiskRoutines::CloseAllFiles() {
+    std::optional<StoreError> first;
+    while (!m_channels.empty()) {
+        try {
+            Close(m_channels.begin()->first);
+        } catch (const StoreError& e) {
+            if (!first) first = e;
+        }
+    }
+    if (first) throw *first;
+}
+
+void DiskRoutines::DeleteDataFile(const QString& name) {
+    CloseAllFiles();
+    const DataRoot::Entry e = m_root.resolve(name);
+    if (!e.isFile()) return;
+    if (::unlink(QFile::encodeName(e.path).constData()) != 0)
+        throw StoreError(name, QStringLiteral("The file could not be deleted: ") + systemError());
+    m_root.noteRemoved(e.path);
+}
+
+void DiskRoutines::DeleteFileAndBackup(const QString& name) {
+    DeleteDataFile(kBackup + name);
+    DeleteDataFile(name);
+}
+
+void DiskRoutines::MakeDirectoryIfAbsent(const QString& name) {
+    const DataRoot::Entry e = m_root.resolve(name);
+    if (e.isDirectory()) return;
+    if (e.exists()) throw StoreError(name, QStringLiteral("A file of that name is in the way of the folder."));
+    if (::mkdir(QFile::encodeName(e.path).constData(), 0777) != 0)
+        throw StoreError(name, QStringLiteral("The folder could not be made: ") + systemError());
+    m_root.noteCreated(e.path);
+}
+
+void DiskRoutines::RemoveDataDirectory(const QString& name) {
+    const DataRoot::Entry e = m_root.resolve(name);
+    if (!e.isDirectory()) throw StoreError(name, QStringLiteral("Path not found."));
+    if (::rmdir(QFile::encodeName(e.path).constData()) != 0)
+        throw StoreError(name, QStringLiteral("The folder could not be removed: ") + systemError());
+    m_root.noteRemoved(e.path);
+}
+
+void DiskRoutines::RenameDataFile(const QString& oldName, const QString& newName) {
+    const DataRoot::Entry from = m_root.resolve(oldName);
+    const DataRoot::Entry to = m_root.resolve(newName);
+    if (!from.isFile()) throw StoreError(oldName, QStringLiteral("File not found."));
+    if (to.exists() && to.path != from.path) throw StoreError(newName, QStringLiteral("File already exists."));
+    writableTarget(newName);
+    if (::rename(QFile::encodeName(from.path).constData(), QFile::encodeName(to.path).constData()) != 0)
+        throw StoreError(oldName, QStringLiteral("The file could not be renamed: ") + systemError());
+    m_root.noteRemoved(from.path);
+    m_root.noteCreated(to.path);
+    DeleteDataFile(oldName);
+}
+
+void DiskRoutines::CopyDataFile(const QString& sourceName, const QString& targetName) {
+    const DataRoot::Entry source = m_root.resolve(sourceName);
+    if (!source.isFile()) throw StoreError(sourceName, QStringLiteral("File not found."));
+    QFile in(source.path);
+    if (!in.open(QIODevice::ReadOnly))
+        throw StoreError(sourceName, QStringLiteral("The file cannot be opened: ") + in.errorString());
+    writeWhole(writableTarget(targetName), targetName, in.readAll());
+}
+
+void DiskRoutines::ReplaceTextFile(const QString& name, const TextWriter& content) {
+    DeleteDataFile(kBackup + name);
+    OpenForOutput(name) = content;
+    CloseAllFiles();
+}
+
+} // namespace ostrel

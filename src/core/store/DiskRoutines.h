@@ -1,0 +1,105 @@
+#pragma once
+
+#include "DataRoot.h"
+#include "RandomFile.h"
+#include "TextStatements.h"
+
+#include <QString>
+
+#include <map>
+#include <memory>
+
+namespace ostrel {
+
+// The routines through which the whole program reaches the disk. Names are data names: they start
+// with a separator, "/" and "\" mean the same, and case does not matter.
+//
+// Files are opened on numbered channels; the last open stores its channel in PrimaryChannel or
+// SecondaryChannel. Each routine ends with CloseAllFiles, so nothing stays open across events.
+// Text written through an output channel reaches the disk when the channel closes, by a safe
+// replace: a temporary file renamed over the old one.
+class DiskRoutines {
+public:
+    static constexpr int kCustomerRecordLength = 328;
+    static constexpr int kContractRecordLength = 386;
+    static constexpr int kCycleRecordLength = 69;
+
+    explicit DiskRoutines(const DataRoot& root) : m_root(root) {}
+    ~DiskRoutines();
+    DiskRoutines(const DiskRoutines&) = delete;
+    DiskRoutines& operator=(const DiskRoutines&) = delete;
+
+    const DataRoot& root() const { return m_root; }
+
+    // True for a file (never a directory). An absent file that has a copy in /Backup is restored
+    // from it first.
+    bool FileExists(const QString& name);
+    // Records in a file, by its length divided by the record length, rounded half to even.
+    qint16 FileRecordCount(const QString& name, qint16 recordLength);
+
+    TextReader& OpenForInput(const QString& name);
+    TextWriter& OpenForOutput(const QString& name);
+    // Closes every open file first.
+    TextWriter& OpenForAppend(const QString& name);
+    RandomFile& OpenRandom(const QString& name, int recordLength);
+    RandomFile& OpenRandomSecondary(const QString& name, int recordLength);
+    RandomFile& OpenCustomerFile() { return OpenRandom(QStringLiteral("/CustomerData.txt"), kCustomerRecordLength); }
+    RandomFile& OpenCycleFile() { return OpenRandomSecondary(QStringLiteral("/CycleInfo.txt"), kCycleRecordLength); }
+    RandomFile& OpenContractFile() {
+        return OpenRandomSecondary(QStringLiteral("/ContractInfo.txt"), kContractRecordLength);
+    }
+
+    // Closes every open file, then deletes the file if there is one.
+    void DeleteDataFile(const QString& name);
+    void DeleteFileAndBackup(const QString& name);
+    void MakeDirectoryIfAbsent(const QString& name);
+    // Removes an empty directory; fails when it is absent or not empty.
+    void RemoveDataDirectory(const QString& name);
+    // Fails when the new name is taken or the old one is absent.
+    void RenameDataFile(const QString& oldName, const QString& newName);
+    // Copies a file over another (the target replaced safely).
+    void CopyDataFile(const QString& sourceName, const QString& targetName);
+    void CopyRelative(const QString& sourceName, const QString& targetName) { CopyDataFile(sourceName, targetName); }
+    void CloseAllFiles();
+
+    // The text writers' habit, made safe: the backup copy is deleted, and the file is replaced
+    // whole or not at all.
+    void ReplaceTextFile(const QString& name, const TextWriter& content);
+    // The whole file for the field and line reads; throws when it is absent.
+    TextReader ReadTextFile(const QString& name);
+
+    bool DirectoryExists(const QString& name) const { return m_root.resolve(name).isDirectory(); }
+    bool PathIsFile(const QString& name) const { return m_root.resolve(name).isFile(); }
+
+    // Channels.
+    int FreeFile() const;
+    bool IsOpen(int channel) const { return m_channels.count(channel) != 0; }
+    int OpenChannelCount() const { return static_cast<int>(m_channels.size()); }
+    TextReader& Input(int channel);
+    TextWriter& Output(int channel);
+    RandomFile& Random(int channel);
+    void Close(int channel);
+
+    qint16 PrimaryChannel = 0;
+    qint16 SecondaryChannel = 0;
+
+private:
+    struct Channel {
+        enum class Mode { Input, Output, Append, Random } mode = Mode::Input;
+        QString name;
+        DataRoot::Entry target;
+        TextReader reader;
+        TextWriter writer;
+        std::unique_ptr<RandomFile> random;
+    };
+    Channel& channel(int number, const char* kind);
+    int openChannel(std::unique_ptr<Channel> ch);
+    void commit(Channel& ch);
+    void writeWhole(const DataRoot::Entry& target, const QString& name, const QByteArray& bytes);
+    DataRoot::Entry writableTarget(const QString& name) const;
+
+    const DataRoot& m_root;
+    std::map<int, std::unique_ptr<Channel>> m_channels;
+};
+
+} // namespace ostrel

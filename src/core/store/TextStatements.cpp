@@ -1,0 +1,161 @@
+#include "TextStatements.h"
+
+#include "Cp1252.h"
+#include "StoreError.h"
+
+#include <cmath>
+#include <cstdio>
+
+namespace ostrel {
+
+namespace {
+bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+} // namespace
+
+QByteArray TextWriter::formatNumber(double d) {
+    if (d == 0) return "0";
+    if (std::isnan(d) || std::isinf(d)) return "0";
+    if (d == std::trunc(d) && std::fabs(d) < 1e15) return QByteArray::number(static_cast<qint64>(d));
+    // Shortest text of up to 15 significant digits that reads back as the same number,
+    // with no leading zero before the decimal mark.
+    char buf[40];
+    for (int precision = 1; precision <= 15; ++precision) {
+        std::snprintf(buf, sizeof buf, "%.*g", precision, d);
+        if (std::strtod(buf, nullptr) == d) break;
+    }
+    QByteArray s(buf);
+    if (s.startsWith("0.")) s.remove(0, 1);
+    else if (s.startsWith("-0.")) s.remove(1, 1);
+    // Exponent form as "1E+20".
+    const qsizetype e = s.indexOf('e');
+    if (e >= 0) {
+        QByteArray mant = s.left(e), exp = s.mid(e + 1);
+        const bool neg = exp.startsWith('-');
+        if (exp.startsWith('+') || neg) exp.remove(0, 1);
+        while (exp.size() > 2 && exp.startsWith('0')) exp.remove(0, 1);
+        s = mant + (neg ? "E-" : "E+") + exp;
+    }
+    return s;
+}
+
+QByteArray TextWriter::formatField(const StatementValue& v) {
+    struct Visitor {
+        QByteArray operator()(const QString& s) const { return '"' + cp1252::encode(s) + '"'; }
+        QByteArray operator()(qint64 n) const { return QByteArray::number(n); }
+        QByteArray operator()(double d) const { return formatNumber(d); }
+        QByteArray operator()(bool b) const { return b ? "#TRUE#" : "#FALSE#"; }
+        QByteArray operator()(const QDate& d) const { return '#' + d.toString(u"yyyy-MM-dd").toLatin1() + '#'; }
+        QByteArray operator()(const QTime& t) const { return '#' + t.toString(u"hh:mm:ss").toLatin1() + '#'; }
+        QByteArray operator()(const QDateTime& dt) const {
+            return '#' + dt.toString(u"yyyy-MM-dd hh:mm:ss").toLatin1() + '#';
+        }
+        QByteArray operator()(NullValue) const { return "#NULL#"; }
+        QByteArray operator()(EmptyValue) const { return {}; }
+    };
+    return std::visit(Visitor{}, v);
+}
+
+TextWriter& TextWriter::write(std::initializer_list<StatementValue> fields) {
+    bool first = true;
+    for (const auto& f : fields) {
+        if (!first) m_bytes += ',';
+        first = false;
+        m_bytes += formatField(f);
+    }
+    m_bytes += "\r\n";
+    return *this;
+}
+
+TextWriter& TextWriter::print(const QString& text) {
+    m_bytes += cp1252::encode(text);
+    m_bytes += "\r\n";
+    return *this;
+}
+
+QString TextField::toString() const { return cp1252::decode(raw); }
+
+double TextField::toNumber() const {
+    if (!quoted) {
+        if (raw == "#TRUE#") return -1;
+        if (raw == "#FALSE#") return 0;
+    }
+    const QByteArray t = raw.trimmed();
+    bool ok = false;
+    const double d = t.toDouble(&ok);
+    if (ok) return d;
+    // The longest leading part that is a number, as a loose conversion would take it.
+    char* end = nullptr;
+    const double lead = std::strtod(t.constData(), &end);
+    return end == t.constData() ? 0.0 : lead;
+}
+
+qint64 TextField::toInteger() const { return static_cast<qint64>(std::nearbyint(toNumber())); }
+
+bool TextField::toBoolean() const {
+    if (!quoted && raw == "#TRUE#") return true;
+    if (!quoted && raw == "#FALSE#") return false;
+    const QByteArray t = raw.trimmed().toUpper();
+    if (t == "TRUE") return true;
+    if (t == "FALSE") return false;
+    return toNumber() != 0;
+}
+
+QDate TextField::toDate() const {
+    QByteArray t = raw.trimmed();
+    if (t.startsWith('#') && t.endsWith('#') && t.size() >= 2) t = t.mid(1, t.size() - 2);
+    const QString s = QString::fromLatin1(t.left(10));
+    QDate d = QDate::fromString(s, u"yyyy-MM-dd");
+    if (!d.isValid()) d = QDate::fromString(QString::fromLatin1(t), u"M/d/yyyy");
+    return d;
+}
+
+void TextReader::throwPastEnd() const {
+    throw StoreError(m_file, QStringLiteral("The file ends before all of its data could be read."));
+}
+
+void TextReader::skipDelimiter() {
+    if (m_pos >= m_bytes.size()) return;
+    const char c = m_bytes[m_pos];
+    if (c == ',') {
+        ++m_pos;
+    } else if (c == '\r') {
+        ++m_pos;
+        if (m_pos < m_bytes.size() && m_bytes[m_pos] == '\n') ++m_pos;
+    } else if (c == '\n') {
+        ++m_pos;
+    }
+}
+
+TextField TextReader::readField() {
+    if (atEnd()) throwPastEnd();
+    while (m_pos < m_bytes.size() && isBlank(m_bytes[m_pos])) ++m_pos;
+    TextField f;
+    if (m_pos < m_bytes.size() && m_bytes[m_pos] == '"') {
+        f.quoted = true;
+        const qsizetype start = ++m_pos;
+        while (m_pos < m_bytes.size() && m_bytes[m_pos] != '"') ++m_pos;
+        f.raw = m_bytes.mid(start, m_pos - start);
+        if (m_pos < m_bytes.size()) ++m_pos; // closing quote
+        // Whatever stands between the closing quote and the next delimiter is passed over.
+        while (m_pos < m_bytes.size() && m_bytes[m_pos] != ',' && !isLineEnd(m_bytes[m_pos])) ++m_pos;
+    } else {
+        const qsizetype start = m_pos;
+        while (m_pos < m_bytes.size() && m_bytes[m_pos] != ',' && !isLineEnd(m_bytes[m_pos])) ++m_pos;
+        f.raw = m_bytes.mid(start, m_pos - start);
+    }
+    skipDelimiter();
+    return f;
+}
+
+QString TextReader::readLine() {
+    if (atEnd()) throwPastEnd();
+    const qsizetype start = m_pos;
+    while (m_pos < m_bytes.size() && !isLineEnd(m_bytes[m_pos])) ++m_pos;
+    const QString line = cp1252::decode(QByteArrayView(m_bytes).sliced(start, m_pos - start));
+    if (m_pos < m_bytes.size() && m_bytes[m_pos] == '\r') ++m_pos;
+    if (m_pos < m_bytes.size() && m_bytes[m_pos] == '\n') ++m_pos;
+    return line;
+}
+
+} // namespace ostrel
