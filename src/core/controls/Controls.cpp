@@ -77,16 +77,16 @@ QString Grid::TextMatrix(int r, int c) const {
 }
 
 void Grid::SetTextMatrix(int r, int c, const QString& text) { cellRef(r, c).text = text; }
-QColor Grid::CellBackColor(int r, int c) const {
+Colour Grid::CellBackColor(int r, int c) const {
     const Cell* x = cell(r, c);
-    return x ? x->back : QColor();
+    return x ? x->back : kNoColour;
 }
-void Grid::SetCellBackColor(int r, int c, const QColor& color) { cellRef(r, c).back = color; }
-QColor Grid::CellForeColor(int r, int c) const {
+void Grid::SetCellBackColor(int r, int c, const Colour& color) { cellRef(r, c).back = color; }
+Colour Grid::CellForeColor(int r, int c) const {
     const Cell* x = cell(r, c);
-    return x ? x->fore : QColor();
+    return x ? x->fore : kNoColour;
 }
-void Grid::SetCellForeColor(int r, int c, const QColor& color) { cellRef(r, c).fore = color; }
+void Grid::SetCellForeColor(int r, int c, const Colour& color) { cellRef(r, c).fore = color; }
 
 void Grid::Clear() {
     for (auto& r : m_cells)

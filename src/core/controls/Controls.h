@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -8,6 +7,11 @@
 #include <map>
 
 namespace ostrel {
+
+// A colour as the legacy files hold it: 24 bits, red in the low byte. kNoColour: the default.
+using Colour = quint32;
+constexpr Colour kNoColour = 0xFFFFFFFFu;
+inline Colour rgbColour(int r, int g, int b) { return Colour(r) | (Colour(g) << 8) | (Colour(b) << 16); }
 
 // Plain models of the controls a screen shows. They hold state only; a screen's logic reads and
 // writes them, and a view pushes them into widgets after each event.
@@ -98,17 +102,17 @@ struct Grid : Control {
     void SetCols(int cols);
     QString TextMatrix(int r, int c) const;
     void SetTextMatrix(int r, int c, const QString& text);
-    QColor CellBackColor(int r, int c) const;
-    void SetCellBackColor(int r, int c, const QColor& color);
-    QColor CellForeColor(int r, int c) const;
-    void SetCellForeColor(int r, int c, const QColor& color);
+    Colour CellBackColor(int r, int c) const;
+    void SetCellBackColor(int r, int c, const Colour& color);
+    Colour CellForeColor(int r, int c) const;
+    void SetCellForeColor(int r, int c, const Colour& color);
     void Clear(); // every cell's text and colour
 
 private:
     struct Cell {
         QString text;
-        QColor back;
-        QColor fore;
+        Colour back = kNoColour;
+        Colour fore = kNoColour;
     };
     const Cell* cell(int r, int c) const;
     Cell& cellRef(int r, int c);
