@@ -39,16 +39,16 @@ DataRoot::DataRoot(const QString& rootDirectory)
 
 DataRoot::~DataRoot() = default;
 
-QStringList DataRoot::parts(QStringView name) {
+QStringList DataRoot::parts(const QString& name) {
     QStringList out;
     qsizetype start = 0;
     for (qsizetype i = 0; i <= name.size(); ++i) {
         if (i < name.size() && name[i] != u'/' && name[i] != u'\\') continue;
-        const QStringView part = name.mid(start, i - start);
+        const QStringView part = QStringView(name).mid(start, i - start);
         start = i + 1;
         if (part.isEmpty() || part == u".") continue;
         if (part == u".." || part.contains(QChar(0)))
-            throw StoreError(name.toString(), QStringLiteral("This name would reach outside the data folder."));
+            throw StoreError(name, QStringLiteral("This name would reach outside the data folder."));
         out.append(part.toString());
     }
     return out;
@@ -99,7 +99,7 @@ void DataRoot::noteChange(const QString& fullPath, bool created) const {
         l.byFoldedName.remove(name.toCaseFolded());
 }
 
-DataRoot::Entry DataRoot::resolve(QStringView name) const {
+DataRoot::Entry DataRoot::resolve(const QString& name) const {
     const QStringList ps = parts(name);
     QString exact = m_root;
     for (const QString& p : ps) exact += u'/' + p;
@@ -137,7 +137,7 @@ DataRoot::Entry DataRoot::resolve(QStringView name) const {
     return e;
 }
 
-QStringList DataRoot::list(QStringView name) const {
+QStringList DataRoot::list(const QString& name) const {
     const Entry e = resolve(name);
     if (!e.isDirectory()) return {};
     return QDir(e.path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);

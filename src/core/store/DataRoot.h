@@ -32,11 +32,11 @@ public:
     const QString& root() const { return m_root; }
 
     // Splits a data name into its parts; throws StoreError for a part that would leave the root.
-    static QStringList parts(QStringView name);
+    static QStringList parts(const QString& name);
 
     // The entry a data name stands for. Throws StoreError for a name that would leave the root.
-    Entry resolve(QStringView name) const;
-    QString path(QStringView name) const { return resolve(name).path; }
+    Entry resolve(const QString& name) const;
+    QString path(const QString& name) const { return resolve(name).path; }
 
     // Keep the case-insensitive look-up current when this program adds or removes an entry, without
     // listing a large directory again.
@@ -44,7 +44,7 @@ public:
     void noteRemoved(const QString& fullPath) const { noteChange(fullPath, false); }
 
     // The names in a directory, as on disk (empty when it is not a directory).
-    QStringList list(QStringView name) const;
+    QStringList list(const QString& name) const;
 
 private:
     struct Listing;

@@ -1,0 +1,64 @@
+#include "TestDataRoot.h"
+#include "store/StoreError.h"
+
+#include <gtest/gtest.h>
+
+using namespace ostrel;
+using ostrel::test::TestDataRoot;
+
+TEST(DataRoot, BothSeparatorsNameTheSameFile) {
+    TestDataRoot t;
+    t.writeBytes("/2026/DaySchedules1/17.txt", "x");
+    EXPECT_TRUE(t.root().resolve(QStringLiteral("/2026\\DaySchedules1/17.txt")).isFile());
+    EXPECT_TRUE(t.root().resolve(QStringLiteral("\\2026\\DaySchedules1\\17.txt")).isFile());
+}
+
+TEST(DataRoot, NamesMatchTheDiskWithoutRegardToCase) {
+    TestDataRoot t;
+    t.writeBytes("/AuxFiles/x", "data");
+    const auto e = t.root().resolve(QStringLiteral("/Auxfiles/X"));
+    EXPECT_TRUE(e.isFile());
+    EXPECT_EQ(e.path, t.full("/AuxFiles/x"));
+}
+
+TEST(DataRoot, AWrittenFileIsFoundUnderAnotherCase) {
+    TestDataRoot t;
+    t.makeDir("/AuxFiles");
+    TextWriter w;
+    w.print("one");
+    t.disk().ReplaceTextFile("/Auxfiles/x", w);
+    EXPECT_EQ(t.disk().ReadTextFile("/AUXFILES/X").readLine(), "one");
+    EXPECT_TRUE(t.isFile("/AuxFiles/x"));
+}
+
+TEST(DataRoot, AMissingPartKeepsTheSpellingItWasGiven) {
+    TestDataRoot t;
+    t.makeDir("/Appointments");
+    const auto e = t.root().resolve(QStringLiteral("/appointments/1 - 324-1.txt"));
+    EXPECT_FALSE(e.exists());
+    EXPECT_EQ(e.path, t.full("/Appointments/1 - 324-1.txt"));
+}
+
+TEST(DataRoot, NoNameLeavesTheRoot) {
+    TestDataRoot t;
+    EXPECT_THROW(t.root().resolve(QStringLiteral("/../etc/passwd")), StoreError);
+    EXPECT_THROW(t.root().resolve(QStringLiteral("/AuxFiles/..\\..\\x")), StoreError);
+    EXPECT_THROW(t.disk().FileExists("/OIActiveAccounts/../../x.txt"), StoreError);
+    // An absolute-looking name stays below the root.
+    EXPECT_EQ(t.root().resolve(QStringLiteral("/etc/passwd")).path, t.full("/etc/passwd"));
+    EXPECT_EQ(t.root().resolve(QStringLiteral("//etc//passwd")).path, t.full("/etc/passwd"));
+}
+
+TEST(DataRoot, ANulInANameIsRefused) {
+    TestDataRoot t;
+    EXPECT_THROW(t.root().resolve(QString("/AuxFiles/") + QChar(0)), StoreError);
+}
+
+TEST(DataRoot, ManyMissesInALargeFolderStayFast) {
+    // Every miss consults the folder's listing; it must be read once, not once per miss.
+    TestDataRoot t;
+    t.makeDir("/AuxFiles");
+    for (int i = 0; i < 2000; ++i) t.disk().MakeDirectoryIfAbsent(QString("/auxfiles/%1").arg(i));
+    EXPECT_EQ(t.root().list("/AuxFiles").size(), 2000);
+    EXPECT_FALSE(t.root().resolve(QStringLiteral("/AUXFILES/1999")).path.contains("AUXFILES"));
+}
