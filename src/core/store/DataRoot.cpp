@@ -144,3 +144,32 @@ QStringList DataRoot::list(const QString& name) const {
 }
 
 } // namespace ostrel
+
+namespace ostrel {
+
+QHash<QString, DataRoot::Listed> DataRoot::entries(const QString& name) const {
+    QHash<QString, Listed> out;
+    const Entry e = resolve(name);
+    if (!e.isDirectory()) return out;
+    const QByteArray native = QFile::encodeName(e.path);
+    DIR* d = ::opendir(native.constData());
+    if (!d) return out;
+    while (dirent* de = ::readdir(d)) {
+        const QString n = QFile::decodeName(de->d_name);
+        if (n == u"." || n == u"..") continue;
+        Kind kind = Kind::Other;
+        switch (de->d_type) {
+        case DT_REG: kind = Kind::File; break;
+        case DT_DIR: kind = Kind::Directory; break;
+        case DT_UNKNOWN:
+        case DT_LNK: kind = statPath(e.path + u'/' + n).kind; break;
+        default: break;
+        }
+        const QString folded = n.toCaseFolded();
+        if (!out.contains(folded)) out.insert(folded, Listed{n, kind});
+    }
+    ::closedir(d);
+    return out;
+}
+
+} // namespace ostrel

@@ -46,6 +46,14 @@ public:
     // The names in a directory, as on disk (empty when it is not a directory).
     QStringList list(const QString& name) const;
 
+    // A directory's entries with their kinds, keyed by case-folded name: one read of the directory
+    // for callers that test many names in it.
+    struct Listed {
+        QString name;
+        Kind kind = Kind::Missing;
+    };
+    QHash<QString, Listed> entries(const QString& name) const;
+
 private:
     struct Listing;
     const Listing& listing(const QString& directory) const;

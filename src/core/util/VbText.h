@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace ostrel {
+
+// Trims blanks only, as the legacy trim does: NULs of a field never written, tabs and line ends stay.
+QString vbTrim(const QString& s);
+QString vbLTrim(const QString& s);
+QString vbRTrim(const QString& s);
+
+// The number-to-text form that puts one blank before a positive number (" 1", "-1").
+QString vbStr(qint64 n);
+
+} // namespace ostrel
