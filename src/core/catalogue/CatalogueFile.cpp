@@ -1,0 +1,58 @@
+#include "CatalogueFile.h"
+
+#include "store/StoreError.h"
+
+namespace ostrel {
+
+namespace {
+// Closes what a routine left open when it stops half-way; the normal path closes by itself.
+class ClosedOnExit {
+public:
+    explicit ClosedOnExit(DiskRoutines& disk) : m_disk(disk) {}
+    ~ClosedOnExit() {
+        try {
+            m_disk.CloseAllFiles();
+        } catch (const StoreError&) {
+            // The routine's own error is the one the user sees.
+        }
+    }
+    ClosedOnExit(const ClosedOnExit&) = delete;
+    ClosedOnExit& operator=(const ClosedOnExit&) = delete;
+
+private:
+    DiskRoutines& m_disk;
+};
+} // namespace
+
+void CheckCatalogueCount(const QString& name, qsizetype count) {
+    if (count <= kMaxCatalogueRecords) return;
+    throw StoreError(name, QStringLiteral("The catalogue holds %1 entries here, but a catalogue file can hold at "
+                                          "most %2. Nothing was changed.")
+                               .arg(count)
+                               .arg(kMaxCatalogueRecords));
+}
+
+QVector<Record> ReadCatalogueRecords(DiskRoutines& disk, const QString& name, int recordLength) {
+    ClosedOnExit guard(disk);
+    RandomFile& file = disk.OpenRandom(name, recordLength);
+    const int count = file.recordCount();
+    CheckCatalogueCount(name, count);
+    QVector<Record> records;
+    records.reserve(count);
+    for (int r = 1; r <= count; ++r) records.append(file.get(r));
+    disk.CloseAllFiles();
+    return records;
+}
+
+void WriteCatalogueRecords(DiskRoutines& disk, const QString& name, int recordLength,
+                           const QVector<Record>& records) {
+    CheckCatalogueCount(name, records.size());
+    disk.DeleteFileAndBackup(name);
+    if (records.isEmpty()) return;
+    ClosedOnExit guard(disk);
+    RandomFile& file = disk.OpenRandom(name, recordLength);
+    for (qsizetype i = 0; i < records.size(); ++i) file.put(static_cast<int>(i + 1), records[i]);
+    disk.CloseAllFiles();
+}
+
+} // namespace ostrel

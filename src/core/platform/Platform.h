@@ -1,0 +1,20 @@
+#pragma once
+
+#include "AppInfo.h"
+#include "Browser.h"
+#include "Clock.h"
+#include "Dialogs.h"
+#include "Instance.h"
+
+namespace ostrel {
+
+// Everything the logic needs from outside, in one object a screen or the session takes whole.
+struct Platform {
+    Dialogs& dialogs;
+    const Clock& clock;
+    Instance& instance;
+    Browser& browser;
+    AppInfo& app;
+};
+
+} // namespace ostrel

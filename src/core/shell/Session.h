@@ -1,0 +1,106 @@
+#pragma once
+
+#include "ScreenId.h"
+#include "platform/Platform.h"
+#include "setup/PointOfServiceNames.h"
+#include "setup/SetupSettings.h"
+#include "store/DataRoot.h"
+#include "store/DiskRoutines.h"
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <functional>
+#include <map>
+#include <memory>
+
+namespace ostrel {
+
+class Screen;
+class StoreError;
+struct ListControl;
+class frmSplash;
+class frmStartup;
+
+// The screens whose Point of Service list start-up and Setup fill, in the order they are filled.
+enum class PointOfServiceList {
+    frmSetup,
+    frmInvoice,
+    frmNewCustomer,
+    frmCreate,
+    frmWorkOrders,
+    frmWorkSchedules,
+    frmSales,
+    frmBlock,
+    frmAppointments,
+};
+constexpr int kPointOfServiceLists = 9;
+
+// One run of the program: the data root, the outside world, the shared objects every screen reads,
+// and the screens, created once and shown and hidden.
+class Session {
+public:
+    Session(const QString& dataRoot, Platform& platform);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    enum class StartResult { Running, AnotherCopyRunning };
+    // The start-up sequence. Ends with the welcome screen shown, or refuses a second copy.
+    StartResult Main();
+    // Hides every screen, last first, and ends the process.
+    void ExitProgram();
+    bool hasEnded() const { return m_ended; }
+
+    void LoadServiceAreas();
+    bool RequiredFilesPresent();
+    void CreateTeamDirectories(const QString& yearText);
+    QDate DefaultCalendarDate() const;
+    // An OK box with the two texts.
+    void ShowMessage(const QString& prompt, const QString& title);
+    // The bell, when the alarm option is on.
+    void Beep();
+    // Reports a routine that stopped on a disk failure.
+    void ReportStoreError(const StoreError& error);
+    // Runs one step of work; a disk failure is reported and the program goes on.
+    bool Guarded(const std::function<void()>& step);
+
+    // Screens.
+    void RegisterScreen(ScreenId id, Screen& screen);
+    Screen* FindScreen(ScreenId id) const;
+    bool HasScreen(ScreenId id) const { return FindScreen(id) != nullptr; }
+    // Shows the screen; when this version has not got it, says so and returns false.
+    bool ShowScreen(ScreenId id);
+    void HideScreen(ScreenId id);
+    void SetPointOfServiceList(PointOfServiceList owner, ListControl* list);
+
+    const QString& programName() const { return platform.app.programName(); }
+    QDate today() const { return platform.clock.today(); }
+
+    DataRoot root;
+    DiskRoutines disk;
+    Platform& platform;
+
+    // Shared state read by every screen.
+    SetupSettings settings;
+    PointOfServiceNames pointOfServiceNames;
+    qint16 SelectedRoutine = 0;
+
+    // Set by the view layer: what ends the process once every screen is hidden.
+    std::function<void()> endProcess;
+
+    frmSplash& splash() { return *m_splash; }
+    frmStartup& startup() { return *m_startup; }
+
+private:
+    std::map<ScreenId, Screen*> m_screens;
+    std::vector<ScreenId> m_loadOrder;
+    std::array<ListControl*, kPointOfServiceLists> m_pointOfServiceLists{};
+    std::unique_ptr<frmSplash> m_splash;
+    std::unique_ptr<frmStartup> m_startup;
+    bool m_ended = false;
+};
+
+} // namespace ostrel

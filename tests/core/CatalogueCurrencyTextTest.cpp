@@ -1,0 +1,54 @@
+#include "catalogue/CurrencyText.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace ostrel;
+
+TEST(CatalogueCurrencyText, ShowsDollarsWithThousandsCommasAndTwoDecimals) {
+    EXPECT_EQ(currencytext::format(0), QStringLiteral("$0.00"));
+    EXPECT_EQ(currencytext::format(12345000), QStringLiteral("$1,234.50"));
+    EXPECT_EQ(currencytext::format(12345678900000), QStringLiteral("$1,234,567,890.00"));
+    EXPECT_EQ(currencytext::format(4500), QStringLiteral("$0.45"));
+}
+
+TEST(CatalogueCurrencyText, ShowsNegativesInParentheses) {
+    EXPECT_EQ(currencytext::format(-12345000), QStringLiteral("($1,234.50)"));
+    EXPECT_EQ(currencytext::format(std::numeric_limits<qint64>::min()),
+              QStringLiteral("($922,337,203,685,477.58)"));
+}
+
+TEST(CatalogueCurrencyText, RoundsToCentsHalfAwayFromZero) {
+    EXPECT_EQ(currencytext::format(1050), QStringLiteral("$0.11"));
+    EXPECT_EQ(currencytext::format(1049), QStringLiteral("$0.10"));
+    EXPECT_EQ(currencytext::format(-1050), QStringLiteral("($0.11)"));
+}
+
+TEST(CatalogueCurrencyText, ReadsTheShownFormAndPlainNumbers) {
+    EXPECT_EQ(currencytext::parseCurrency(u"$1,234.50"), 12345000);
+    EXPECT_EQ(currencytext::parseCurrency(u"($1,234.50)"), -12345000);
+    EXPECT_EQ(currencytext::parseCurrency(u"-$5"), -50000);
+    EXPECT_EQ(currencytext::parseCurrency(u" 12.5 "), 125000);
+    EXPECT_EQ(currencytext::parseCurrency(u".25"), 2500);
+    EXPECT_EQ(currencytext::parseCurrency(u"7"), 70000);
+}
+
+TEST(CatalogueCurrencyText, RoundsPastTheKeptDecimalsHalfToEven) {
+    EXPECT_EQ(currencytext::parseCurrency(u"0.00005"), 0);
+    EXPECT_EQ(currencytext::parseCurrency(u"0.00015"), 2);
+    EXPECT_EQ(currencytext::parseCurrency(u"0.000051"), 1);
+    EXPECT_EQ(currencytext::parseWhole(u"$12.50"), 12);
+    EXPECT_EQ(currencytext::parseWhole(u"$13.50"), 14);
+    EXPECT_EQ(currencytext::parseWhole(u"$1,850.00"), 1850);
+}
+
+TEST(CatalogueCurrencyText, RefusesTextThatIsNoAmount) {
+    EXPECT_FALSE(currencytext::parseCurrency(u""));
+    EXPECT_FALSE(currencytext::parseCurrency(u"  "));
+    EXPECT_FALSE(currencytext::parseCurrency(u"$"));
+    EXPECT_FALSE(currencytext::parseCurrency(u"12abc"));
+    EXPECT_FALSE(currencytext::parseCurrency(u"1.2.3"));
+    EXPECT_FALSE(currencytext::parseWhole(u"99999999999999999999"));
+    EXPECT_FALSE(currencytext::parseCurrency(u"999999999999999999"));
+}
