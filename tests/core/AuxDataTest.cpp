@@ -1,6 +1,6 @@
+#include "accounts/AuxData.h"
 #include "TestDataRoot.h"
 #include "accounts/AccountFileNames.h"
-#include "accounts/AuxData.h"
 #include "store/StoreError.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,9 @@ using namespace ostrel;
 using ostrel::test::TestDataRoot;
 
 namespace {
-QStringList sixEmpty() { return QStringList(6, QString()); }
+QStringList sixEmpty() {
+    return QStringList(6, QString());
+}
 } // namespace
 
 TEST(AuxHeadings, AbsentFileMeansSixEmptyHeadings) {

@@ -50,7 +50,8 @@ TEST(AddressStyle, WhenNoTestAppliesTheCurrentCaptionIsToggled) {
 TEST(AddressStyle, TheTestsSetTheOppositeOfTheStyleInForce) {
     EXPECT_EQ(AddressCaptionByTests(withNameAndPostal("Ace", "45402"), kUsaStyleAddress),
               kInternationalStyleAddress);
-    EXPECT_EQ(AddressCaptionByTests(withNameAndPostal("Ace", ""), kInternationalStyleAddress), kUsaStyleAddress);
+    EXPECT_EQ(AddressCaptionByTests(withNameAndPostal("Ace", ""), kInternationalStyleAddress),
+              kUsaStyleAddress);
 }
 
 TEST(AddressStyle, ToggleGoesToUsaFromAnyOtherCaption) {

@@ -1,5 +1,5 @@
-#include "TestDataRoot.h"
 #include "setup/BusinessData.h"
+#include "TestDataRoot.h"
 #include "store/StoreError.h"
 
 #include <gtest/gtest.h>
@@ -9,8 +9,14 @@ using ostrel::test::TestDataRoot;
 
 namespace {
 BusinessBoxes sampleBoxes() {
-    return {QString("Ace Repair"), QString("12 Main St"), QString(""),      QString("Dayton"),
-            QString("OH"),         QString("45402"),      QString("937-555-0100"), QString("Fax 937-555-0101"),
+    return {QString("Ace Repair"),
+            QString("12 Main St"),
+            QString(""),
+            QString("Dayton"),
+            QString("OH"),
+            QString("45402"),
+            QString("937-555-0100"),
+            QString("Fax 937-555-0101"),
             QString("FEIN 12-3456789")};
 }
 } // namespace
@@ -62,7 +68,8 @@ TEST(BusinessData, NinthStringIsReadButNotShownSoTheNextSaveWritesItsEmptyBox) {
 
     BusinessBoxes boxes; // the Setup screen's boxes at start-up
     FillBusinessBoxes(data, boxes);
-    for (int i = 0; i < 8; ++i) EXPECT_EQ(boxes[i], data.txtBusiness[i]) << i;
+    for (int i = 0; i < 8; ++i)
+        EXPECT_EQ(boxes[i], data.txtBusiness[i]) << i;
     EXPECT_TRUE(boxes[8].isEmpty());
 
     SaveBusiness(t.disk(), data, boxes);

@@ -12,7 +12,8 @@ using ostrel::test::TestDataRoot;
 
 namespace {
 
-InventoriedItemRecord item(const char* description, qint64 sell, qint64 discountPrice, qint32 discountQuantity) {
+InventoriedItemRecord item(const char* description, qint64 sell, qint64 discountPrice,
+                           qint32 discountQuantity) {
     InventoriedItemRecord i;
     i.Description = description;
     i.Category = "Parts";
@@ -30,9 +31,8 @@ struct LoadedItems {
     LoadedItems() {
         t.writeBytes("/OIInventoriedItems.txt", item("No Volume Price", 100000, 50000, 0).toRecord().bytes() +
                                                     item("Bulk Filter", 100000, 80000, 5).toRecord().bytes());
-        t.writeBytes("/CustomItems.txt",
-                     CustomItemRecord{"Plenum", 3000000, 2500000, 0}.toRecord().bytes() +
-                         CustomItemRecord{"Box", 900000, 700000, 3}.toRecord().bytes());
+        t.writeBytes("/CustomItems.txt", CustomItemRecord{"Plenum", 3000000, 2500000, 0}.toRecord().bytes() +
+                                             CustomItemRecord{"Box", 900000, 700000, 3}.toRecord().bytes());
         store.LoadCatalogue();
     }
     qint64 itemPrice(int listIndex, double units) const {
@@ -45,7 +45,8 @@ struct LoadedItems {
 
 TEST(VolumePricing, AnItemWithDiscountQuantityZeroNeverGetsTheDiscountPrice) {
     LoadedItems c;
-    for (double units : {0.0, 1.0, 5.0, 1000.0, 1e9}) EXPECT_EQ(c.itemPrice(0, units), 100000) << units;
+    for (double units : {0.0, 1.0, 5.0, 1000.0, 1e9})
+        EXPECT_EQ(c.itemPrice(0, units), 100000) << units;
 }
 
 TEST(VolumePricing, TheDiscountPriceAppliesFromTheDiscountQuantityUp) {
@@ -58,7 +59,8 @@ TEST(VolumePricing, TheDiscountPriceAppliesFromTheDiscountQuantityUp) {
 
 TEST(VolumePricing, APriceTypedByHandGetsNoDiscount) {
     LoadedItems c;
-    EXPECT_EQ(VolumePrice(c.lists.ItemDiscountPrice, c.lists.ItemDiscountQuantity, -1, 100.0, 123400), 123400);
+    EXPECT_EQ(VolumePrice(c.lists.ItemDiscountPrice, c.lists.ItemDiscountQuantity, -1, 100.0, 123400),
+              123400);
 }
 
 TEST(VolumePricing, CustomItemsUseTheirOwnTables) {

@@ -25,7 +25,8 @@ struct LegacyCatalogue {
     CatalogueStore store{t.disk(), grids, lists};
     // Copies, written fresh: the fixture itself is read-only.
     void copyIn() {
-        for (const QString& f : kFiles) t.writeBytes(f, legacyBytes(f));
+        for (const QString& f : kFiles)
+            t.writeBytes(f, legacyBytes(f));
     }
 };
 
@@ -50,16 +51,18 @@ TEST(LegacyCatalogue, LoadsServicesItemsAndCustomItemsAtTheirOffsets) {
 
     const Grid& i = c.grids.fgItems;
     ASSERT_EQ(i.Rows(), 22);
-    const QStringList washable = {"Washable Filter 16x20", "Filters", "$164.63", "$329.26", "3", "$296.33", "5", "5",
-                                  "5"};
-    for (int col = 0; col < 9; ++col) EXPECT_EQ(i.TextMatrix(4, col), washable[col]) << col;
+    const QStringList washable = {
+        "Washable Filter 16x20", "Filters", "$164.63", "$329.26", "3", "$296.33", "5", "5", "5"};
+    for (int col = 0; col < 9; ++col)
+        EXPECT_EQ(i.TextMatrix(4, col), washable[col]) << col;
     EXPECT_EQ(c.grids.cboCategory.items,
               QStringList({"Filters", "Thermostats", "Parts", "Refrigerant", "Hardware"}));
 
     const Grid& cu = c.grids.fgCustom;
     ASSERT_EQ(cu.Rows(), 5);
     const QStringList transition = {"Custom Duct Transition", "$145.00", "$120.00", "3"};
-    for (int col = 0; col < 4; ++col) EXPECT_EQ(cu.TextMatrix(1, col), transition[col]) << col;
+    for (int col = 0; col < 4; ++col)
+        EXPECT_EQ(cu.TextMatrix(1, col), transition[col]) << col;
     EXPECT_EQ(c.lists.frmCreate.cboItems.ListCount(), 21 + 4);
 
     EXPECT_EQ(c.grids.txtLabor[0].text, QStringLiteral("General Labor"));
@@ -75,7 +78,8 @@ TEST(LegacyCatalogue, SavingItUnchangedGivesTheSameBytes) {
     c.store.LoadCatalogue();
     c.store.SaveCatalogue();
     c.store.SaveLabor();
-    for (const QString& f : kFiles) EXPECT_EQ(c.t.readBytes(f), legacyBytes(f)) << f.toStdString();
+    for (const QString& f : kFiles)
+        EXPECT_EQ(c.t.readBytes(f), legacyBytes(f)) << f.toStdString();
 }
 
 TEST(LegacyCatalogue, ATimeIndexOfZeroComesBackAsOneAndNothingElseChanges) {

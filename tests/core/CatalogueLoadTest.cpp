@@ -14,7 +14,8 @@ namespace {
 
 template <typename R> QByteArray fileOf(const QVector<R>& records) {
     QByteArray bytes;
-    for (const R& r : records) bytes += r.toRecord().bytes();
+    for (const R& r : records)
+        bytes += r.toRecord().bytes();
     return bytes;
 }
 
@@ -44,7 +45,8 @@ struct Catalogue {
 
 QStringList column(const Grid& g, int col) {
     QStringList out;
-    for (int r = 1; r < g.Rows(); ++r) out << g.TextMatrix(r, col);
+    for (int r = 1; r < g.Rows(); ++r)
+        out << g.TextMatrix(r, col);
     return out;
 }
 
@@ -135,8 +137,10 @@ TEST(LoadInventoriedItems, FillsTheNineColumnsWithAmountsInCurrencyForm) {
     ASSERT_TRUE(c.store.LoadInventoriedItems());
     const Grid& g = c.grids.fgItems;
     ASSERT_EQ(g.Rows(), 2);
-    const QStringList expected = {"Capacitor 45/5", "Parts", "$58.92", "$117.84", "-4", "$106.00", "10", "12", "3"};
-    for (int col = 0; col < 9; ++col) EXPECT_EQ(g.TextMatrix(1, col), expected[col]) << col;
+    const QStringList expected = {"Capacitor 45/5", "Parts", "$58.92", "$117.84", "-4",
+                                  "$106.00",        "10",    "12",     "3"};
+    for (int col = 0; col < 9; ++col)
+        EXPECT_EQ(g.TextMatrix(1, col), expected[col]) << col;
 }
 
 TEST(LoadInventoriedItems, FillsTheItemListsAndDiscountTablesInRecordOrder) {
@@ -157,10 +161,11 @@ TEST(LoadInventoriedItems, FillsTheItemListsAndDiscountTablesInRecordOrder) {
 
 TEST(LoadInventoriedItems, CategoriesAreTheDistinctTrimmedValuesInOrderOfFirstAppearance) {
     Catalogue c;
-    c.t.writeBytes("/OIInventoriedItems.txt",
-                   fileOf<InventoriedItemRecord>({item("a", "Filters", 1), item("b", "  Parts", 1),
-                                                  item("c", "Filters", 1), item("d", "", 1), item("e", "Parts", 1),
-                                                  item("f", "parts", 1), item("g", "Hardware", 1)}));
+    c.t.writeBytes(
+        "/OIInventoriedItems.txt",
+        fileOf<InventoriedItemRecord>({item("a", "Filters", 1), item("b", "  Parts", 1),
+                                       item("c", "Filters", 1), item("d", "", 1), item("e", "Parts", 1),
+                                       item("f", "parts", 1), item("g", "Hardware", 1)}));
     ASSERT_TRUE(c.store.LoadInventoriedItems());
     const QStringList categories = {"Filters", "Parts", "parts", "Hardware"};
     EXPECT_EQ(c.grids.cboCategory.items, categories);
@@ -185,9 +190,10 @@ TEST(LoadInventoriedItems, ReloadingRebuildsTheCategoriesWithAllOnlyOnce) {
 
 TEST(LoadCustomItems, AppendsAfterTheInventoriedItemsOnTheAppointmentScreen) {
     Catalogue c;
-    c.t.writeBytes("/OIInventoriedItems.txt", fileOf<InventoriedItemRecord>({item("Igniter", "Parts", 248000)}));
-    c.t.writeBytes("/CustomItems.txt",
-                   fileOf<CustomItemRecord>({{"Return Air Box", 950000, 850000, 2}, {"Fabricated Plenum", 3100000, 0, 0}}));
+    c.t.writeBytes("/OIInventoriedItems.txt",
+                   fileOf<InventoriedItemRecord>({item("Igniter", "Parts", 248000)}));
+    c.t.writeBytes("/CustomItems.txt", fileOf<CustomItemRecord>({{"Return Air Box", 950000, 850000, 2},
+                                                                 {"Fabricated Plenum", 3100000, 0, 0}}));
     c.store.LoadCatalogue();
     EXPECT_EQ(c.create.cboItems.items, QStringList({"Igniter", "Return Air Box", "Fabricated Plenum"}));
     EXPECT_EQ(c.create.cboItemPrices.items, QStringList({"$24.80", "$95.00", "$310.00"}));
@@ -196,8 +202,8 @@ TEST(LoadCustomItems, AppendsAfterTheInventoriedItemsOnTheAppointmentScreen) {
 TEST(LoadCustomItems, FillsTheGridAndTheInvoiceListsWithASortedDescriptionList) {
     Catalogue c;
     c.t.writeBytes("/CustomItems.txt", fileOf<CustomItemRecord>({{"Return Air Box", 950000, 850000, 2},
-                                                                  {"Fabricated Plenum", 3100000, 0, 0},
-                                                                  {"Line Set Cover Kit", 599000, 0, 0}}));
+                                                                 {"Fabricated Plenum", 3100000, 0, 0},
+                                                                 {"Line Set Cover Kit", 599000, 0, 0}}));
     ASSERT_TRUE(c.store.LoadCustomItems());
     const Grid& g = c.grids.fgCustom;
     ASSERT_EQ(g.Rows(), 4);
@@ -217,7 +223,8 @@ TEST(LoadCustomItems, FillsTheGridAndTheInvoiceListsWithASortedDescriptionList) 
 
 TEST(LoadCustomItems, ReloadingThemAloneDoesNotListThemTwice) {
     Catalogue c;
-    c.t.writeBytes("/OIInventoriedItems.txt", fileOf<InventoriedItemRecord>({item("Igniter", "Parts", 248000)}));
+    c.t.writeBytes("/OIInventoriedItems.txt",
+                   fileOf<InventoriedItemRecord>({item("Igniter", "Parts", 248000)}));
     c.t.writeBytes("/CustomItems.txt", fileOf<CustomItemRecord>({{"Return Air Box", 950000, 0, 0}}));
     c.store.LoadCatalogue();
     c.t.writeBytes("/CustomItems.txt", fileOf<CustomItemRecord>({{"Plenum", 100000, 0, 0}}));
@@ -230,7 +237,8 @@ TEST(LoadCustomItems, ReloadingThemAloneDoesNotListThemTwice) {
 TEST(CatalogueLimit, AFileOf255RecordsLoads) {
     Catalogue c;
     QVector<ServiceRecord> services;
-    for (int i = 0; i < 255; ++i) services.append({QStringLiteral("S%1").arg(i), "$1.00", 4});
+    for (int i = 0; i < 255; ++i)
+        services.append({QStringLiteral("S%1").arg(i), "$1.00", 4});
     c.t.writeBytes("/Services.txt", fileOf(services));
     ASSERT_TRUE(c.store.LoadServices());
     EXPECT_EQ(c.create.lstServices.ListCount(), 255);
@@ -240,7 +248,8 @@ TEST(CatalogueLimit, AFileOf255RecordsLoads) {
 TEST(CatalogueLimit, AFileOf256RecordsIsRefusedByNameAndNothingChanges) {
     Catalogue c;
     QVector<InventoriedItemRecord> items;
-    for (int i = 0; i < 256; ++i) items.append(item(QStringLiteral("I%1").arg(i), "Parts", 10000));
+    for (int i = 0; i < 256; ++i)
+        items.append(item(QStringLiteral("I%1").arg(i), "Parts", 10000));
     const QByteArray bytes = fileOf(items);
     c.t.writeBytes("/OIInventoriedItems.txt", bytes);
     c.create.cboItems.AddItem(QStringLiteral("kept"));

@@ -56,7 +56,8 @@ TEST(CatalogueMenu, ALastServiceBlankedInItsRowAlsoLeavesNoFile) {
     CatalogueLists lists;
     CatalogueStore store(t.disk(), grids, lists);
     store.LoadCatalogue();
-    for (int col = 0; col < 3; ++col) grids.fgServices.SetTextMatrix(1, col, QString());
+    for (int col = 0; col < 3; ++col)
+        grids.fgServices.SetTextMatrix(1, col, QString());
     store.SaveCatalogue();
     EXPECT_FALSE(t.isFile("/Services.txt"));
     EXPECT_EQ(grids.fgServices.Rows(), 2);

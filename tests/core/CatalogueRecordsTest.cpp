@@ -11,7 +11,8 @@ using namespace ostrel;
 namespace {
 QByteArray raw(std::initializer_list<int> values) {
     QByteArray b;
-    for (int v : values) b.append(static_cast<char>(v));
+    for (int v : values)
+        b.append(static_cast<char>(v));
     return b;
 }
 QByteArray padded(const char* text, int width) {
@@ -22,8 +23,8 @@ QByteArray padded(const char* text, int width) {
 
 TEST(ServiceRecord, WritesDescriptionChargeAndTimeIndexAtTheirOffsets) {
     const ServiceRecord s{QStringLiteral("Diagnostic Check"), QStringLiteral("$65.00"), 4};
-    const QByteArray expected = QByteArray("Diagnostic Check") + QByteArray(44, ' ') + QByteArray("$65.00    ") +
-                                raw({0x04, 0x00});
+    const QByteArray expected =
+        QByteArray("Diagnostic Check") + QByteArray(44, ' ') + QByteArray("$65.00    ") + raw({0x04, 0x00});
     ASSERT_EQ(expected.size(), 72);
     EXPECT_EQ(s.toRecord().bytes(), expected);
 }
@@ -56,10 +57,10 @@ TEST(InventoriedItemRecord, WritesEveryFieldAtItsOffsetLittleEndian) {
     item.DiscountQuantity = 70000;
     item.ReorderAmount = 12;
     item.ReorderAt = -2;
-    const QByteArray expected = padded("Washable Filter 16x20", 50) + padded("Filters", 20) +
-                                raw({0xDC, 0x1E, 0x19, 0, 0, 0, 0, 0}) + raw({0xB8, 0x3D, 0x32, 0, 0, 0, 0, 0}) +
-                                raw({0x03, 0x00}) + raw({0x64, 0x37, 0x2D, 0, 0, 0, 0, 0}) +
-                                raw({0x70, 0x11, 0x01, 0x00}) + raw({0x0C, 0x00}) + raw({0xFE, 0xFF});
+    const QByteArray expected =
+        padded("Washable Filter 16x20", 50) + padded("Filters", 20) + raw({0xDC, 0x1E, 0x19, 0, 0, 0, 0, 0}) +
+        raw({0xB8, 0x3D, 0x32, 0, 0, 0, 0, 0}) + raw({0x03, 0x00}) + raw({0x64, 0x37, 0x2D, 0, 0, 0, 0, 0}) +
+        raw({0x70, 0x11, 0x01, 0x00}) + raw({0x0C, 0x00}) + raw({0xFE, 0xFF});
     ASSERT_EQ(expected.size(), 104);
     EXPECT_EQ(item.toRecord().bytes(), expected);
 
@@ -80,8 +81,9 @@ TEST(CustomItemRecord, WritesEveryFieldAtItsOffsetLittleEndian) {
     item.SellPrice = 1450000;
     item.DiscountPrice = -1;
     item.DiscountQuantity = 3;
-    const QByteArray expected = padded("Custom Duct Transition", 50) + raw({0x10, 0x20, 0x16, 0, 0, 0, 0, 0}) +
-                                QByteArray(8, '\xFF') + raw({0x03, 0, 0, 0});
+    const QByteArray expected = padded("Custom Duct Transition", 50) +
+                                raw({0x10, 0x20, 0x16, 0, 0, 0, 0, 0}) + QByteArray(8, '\xFF') +
+                                raw({0x03, 0, 0, 0});
     ASSERT_EQ(expected.size(), 70);
     EXPECT_EQ(item.toRecord().bytes(), expected);
 
@@ -95,6 +97,7 @@ TEST(CatalogueRecords, KeepWindows1252TextByteForByte) {
     const ServiceRecord s{QStringLiteral("Caf\u00E9 \u2013 Service"), QStringLiteral("\u20AC5.00"), 2};
     const Record r = s.toRecord();
     EXPECT_EQ(r.bytes().left(14), QByteArray("Caf\xE9 \x96 Service"));
-    EXPECT_EQ(r.bytes().mid(60, 5), QByteArray("\x80" "5.00"));
+    EXPECT_EQ(r.bytes().mid(60, 5), QByteArray("\x80"
+                                               "5.00"));
     EXPECT_EQ(ServiceRecord::fromRecord(r).Description.left(14), s.Description);
 }

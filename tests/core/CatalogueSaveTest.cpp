@@ -14,13 +14,15 @@ namespace {
 
 template <typename R> QByteArray fileOf(const QVector<R>& records) {
     QByteArray bytes;
-    for (const R& r : records) bytes += r.toRecord().bytes();
+    for (const R& r : records)
+        bytes += r.toRecord().bytes();
     return bytes;
 }
 
 void setRow(Grid& g, int row, const QStringList& cells) {
     if (g.Rows() <= row) g.SetRows(row + 1);
-    for (int c = 0; c < cells.size(); ++c) g.SetTextMatrix(row, c, cells[c]);
+    for (int c = 0; c < cells.size(); ++c)
+        g.SetTextMatrix(row, c, cells[c]);
 }
 
 struct Catalogue {
@@ -157,7 +159,8 @@ TEST(SaveCatalogue, MoreThan255RowsStopsWithAMessageAndNoFileChanges) {
     writeAllThree(c.t);
     Grid& g = c.grids.fgCustom;
     g.SetRows(257);
-    for (int r = 1; r <= 256; ++r) setRow(g, r, {QStringLiteral("C%1").arg(r), "$1.00", "$1.00", "0"});
+    for (int r = 1; r <= 256; ++r)
+        setRow(g, r, {QStringLiteral("C%1").arg(r), "$1.00", "$1.00", "0"});
     try {
         c.store.SaveCatalogue();
         FAIL() << "256 custom items were saved";
@@ -172,7 +175,8 @@ TEST(SaveCatalogue, MoreThan255RowsStopsWithAMessageAndNoFileChanges) {
 TEST(SaveCatalogue, Exactly255RowsAreSaved) {
     Catalogue c;
     Grid& g = c.grids.fgServices;
-    for (int r = 1; r <= 255; ++r) setRow(g, r, {QStringLiteral("S%1").arg(r), "$1.00", "1:00"});
+    for (int r = 1; r <= 255; ++r)
+        setRow(g, r, {QStringLiteral("S%1").arg(r), "$1.00", "1:00"});
     c.store.SaveCatalogue();
     EXPECT_EQ(c.t.readBytes("/Services.txt").size(), 255 * 72);
     EXPECT_EQ(c.lists.frmCreate.lstServices.ListCount(), 255);

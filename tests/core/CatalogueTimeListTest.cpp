@@ -19,7 +19,8 @@ TEST(CatalogueTimeList, HoldsThirtyThreeQuarterHoursFromNoneToEightHours) {
 
 TEST(CatalogueTimeList, EntryIsHoursWithoutPaddingThenMinutesByTheQuarter) {
     for (int i = 0; i < kTimeListCount; ++i) {
-        const QString expected = QString::number(i / 4) + u':' + QString::number((i % 4) * 15).rightJustified(2, u'0');
+        const QString expected =
+            QString::number(i / 4) + u':' + QString::number((i % 4) * 15).rightJustified(2, u'0');
         EXPECT_EQ(TimeListEntry(i), expected) << i;
     }
 }

@@ -11,8 +11,12 @@ QByteArray padded(const char* text, int width) {
     b.append(QByteArray(width - b.size(), ' '));
     return b;
 }
-QByteArray blanks(int n) { return QByteArray(n, ' '); }
-QByteArray zeros(int n) { return QByteArray(n, '\0'); }
+QByteArray blanks(int n) {
+    return QByteArray(n, ' ');
+}
+QByteArray zeros(int n) {
+    return QByteArray(n, '\0');
+}
 } // namespace
 
 TEST(ContractInfoRecord, DefaultsAreWrittenAtTheirOffsetsByteForByte) {
@@ -21,9 +25,9 @@ TEST(ContractInfoRecord, DefaultsAreWrittenAtTheirOffsetsByteForByte) {
     const QByteArray today("\x00\x00\x00\x00\x00\xa1\xe6\x40", 8);
     const QByteArray expected = padded("None Selected", 35) + padded("None", 15) + zeros(8) + "Wednesday" +
                                 padded("None Selected", 40) + today + today + zeros(2) +
-                                QByteArray("\xff\xff", 2) + zeros(2) + padded("None", 20) + blanks(20) + blanks(30) +
-                                zeros(35) + blanks(25) + blanks(20) + blanks(2) + blanks(10) + blanks(13) +
-                                blanks(30) + zeros(2) + blanks(50);
+                                QByteArray("\xff\xff", 2) + zeros(2) + padded("None", 20) + blanks(20) +
+                                blanks(30) + zeros(35) + blanks(25) + blanks(20) + blanks(2) + blanks(10) +
+                                blanks(13) + blanks(30) + zeros(2) + blanks(50);
     ASSERT_EQ(expected.size(), 386);
     EXPECT_EQ(c.bytes(), expected);
 }

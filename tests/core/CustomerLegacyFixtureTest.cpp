@@ -26,9 +26,9 @@ struct LegacyShop {
     CustomerStore store{t.disk(), buffers};
 
     LegacyShop() {
-        for (const char* f : {"/CustomerData.txt", "/ContractInfo.txt", "/CycleInfo.txt", "/AuxHeadings.txt",
-                              "/StatesList.txt", "/AuxFiles/10023/AuxFile0/Data.txt",
-                              "/AuxFiles/10023/AuxFile1/Data.txt"})
+        for (const char* f :
+             {"/CustomerData.txt", "/ContractInfo.txt", "/CycleInfo.txt", "/AuxHeadings.txt",
+              "/StatesList.txt", "/AuxFiles/10023/AuxFile0/Data.txt", "/AuxFiles/10023/AuxFile1/Data.txt"})
             t.writeBytes(f, legacyBytes(f));
     }
 };
@@ -38,7 +38,8 @@ struct LegacyShop {
 QString expectedListName(const QByteArray& file, int r) {
     const QByteArray rec = file.mid((r - 1) * 328, 328);
     const auto field = [&](int offset, int width) {
-        return QString::fromLatin1(rec.mid(offset, width)).trimmed(); // these records hold Latin-1 letters only
+        return QString::fromLatin1(rec.mid(offset, width))
+            .trimmed(); // these records hold Latin-1 letters only
     };
     if (field(314, 10) == "Business") return field(20, 45);
     return field(289, 25) + ", " + field(273, 15) + " " + QString::fromLatin1(rec.mid(288, 1));
@@ -77,13 +78,16 @@ TEST(LegacyCustomers, EveryRecordIsFoundByItsAccountAndItsTelephone) {
     s.t.disk().CloseAllFiles();
     for (int r = 1; r <= 240; ++r) {
         int found = 0;
-        const auto byAccount = s.store.SearchCustomers(CustomerStore::ByAccountNumber, accounts[r - 1], false, found);
+        const auto byAccount =
+            s.store.SearchCustomers(CustomerStore::ByAccountNumber, accounts[r - 1], false, found);
         bool hit = false;
-        for (const auto& h : byAccount) hit = hit || h.recordNumber == r;
+        for (const auto& h : byAccount)
+            hit = hit || h.recordNumber == r;
         EXPECT_TRUE(hit) << "record " << r;
         const auto byPhone = s.store.SearchCustomers(CustomerStore::ByTelephone, phones[r - 1], false, found);
         hit = false;
-        for (const auto& h : byPhone) hit = hit || (h.recordNumber == r && h.telephone == phones[r - 1]);
+        for (const auto& h : byPhone)
+            hit = hit || (h.recordNumber == r && h.telephone == phones[r - 1]);
         EXPECT_TRUE(hit) << "record " << r;
     }
 }
@@ -99,7 +103,8 @@ TEST(LegacyCustomers, SearchResultsNameTheCustomerAsTheGridShowsIt) {
     EXPECT_EQ(hits[0].recordNumber, 1);
     const auto smiths = s.store.SearchCustomers(CustomerStore::ByLastName, "smith", false, found);
     ASSERT_GT(found, 1);
-    for (const auto& h : smiths) EXPECT_TRUE(h.name.contains("smith", Qt::CaseInsensitive)) << h.name.toStdString();
+    for (const auto& h : smiths)
+        EXPECT_TRUE(h.name.contains("smith", Qt::CaseInsensitive)) << h.name.toStdString();
 }
 
 TEST(LegacyCustomers, SavingEveryRecordUnchangedGivesTheSameBytes) {

@@ -20,7 +20,9 @@ TEST(ComposeName, KeepsATrailingBlankWhenTheLastNameIsEmpty) {
     EXPECT_EQ(ComposeName("", "", "Q", ""), "Q. ");
 }
 
-TEST(ComposeName, OfNothingIsEmpty) { EXPECT_EQ(ComposeName("", " ", "", ""), ""); }
+TEST(ComposeName, OfNothingIsEmpty) {
+    EXPECT_EQ(ComposeName("", " ", "", ""), "");
+}
 
 TEST(ComposeName, OfARecordUsesItsNameFields) {
     CustomerRecord c;

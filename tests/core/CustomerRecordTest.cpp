@@ -78,7 +78,8 @@ TEST(CustomerRecord, ALongerAccountNumberIsCutOnStoring) {
 
 TEST(CustomerRecord, ChangingOneFieldKeepsEveryOtherByteAsRead) {
     QByteArray raw(328, '\0');
-    for (int i = 0; i < raw.size(); ++i) raw[i] = static_cast<char>(0x30 + i % 70);
+    for (int i = 0; i < raw.size(); ++i)
+        raw[i] = static_cast<char>(0x30 + i % 70);
     CustomerRecord c{Record(raw)};
     c.SetCity(u"Chatham");
     QByteArray expected = raw;
@@ -103,11 +104,12 @@ TEST(CustomerRecord, IsABusinessOnlyWhenTheTrimmedTypeSaysSo) {
 TEST(CustomerRecord, ANewAccountClearsThePersonAndKeepsServiceCityPostalAndPointOfService) {
     CustomerRecord c = fullCustomer();
     c.ClearForNewAccount();
-    for (const auto& f : {CustomerRecord::kAccountNumber, CustomerRecord::kBusinessName, CustomerRecord::kAddress1,
-                          CustomerRecord::kAddress2, CustomerRecord::kCity, CustomerRecord::kState,
-                          CustomerRecord::kAddress4, CustomerRecord::kTelephone, CustomerRecord::kCellPhone,
-                          CustomerRecord::kEmail, CustomerRecord::kTitle, CustomerRecord::kFirstName,
-                          CustomerRecord::kMiddleInitial, CustomerRecord::kLastName})
+    for (const auto& f :
+         {CustomerRecord::kAccountNumber, CustomerRecord::kBusinessName, CustomerRecord::kAddress1,
+          CustomerRecord::kAddress2, CustomerRecord::kCity, CustomerRecord::kState, CustomerRecord::kAddress4,
+          CustomerRecord::kTelephone, CustomerRecord::kCellPhone, CustomerRecord::kEmail,
+          CustomerRecord::kTitle, CustomerRecord::kFirstName, CustomerRecord::kMiddleInitial,
+          CustomerRecord::kLastName})
         EXPECT_EQ(c.bytes().mid(f.offset, f.width), QByteArray(f.width, ' ')) << "offset " << f.offset;
     EXPECT_EQ(c.AccountType(), "Business  ");
     EXPECT_EQ(c.CustomerReserved(), 0);

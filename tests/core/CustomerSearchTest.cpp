@@ -10,8 +10,9 @@ using ostrel::test::TestDataRoot;
 
 namespace {
 
-CustomerRecord customer(const QString& account, const QString& type, const QString& name, const QString& first,
-                        const QString& last, const QString& phone = QString(), const QString& city = QString()) {
+CustomerRecord customer(const QString& account, const QString& type, const QString& name,
+                        const QString& first, const QString& last, const QString& phone = QString(),
+                        const QString& city = QString()) {
     CustomerRecord c;
     c.SetAccountNumber(account);
     c.SetAccountType(type);
@@ -54,7 +55,8 @@ struct Shop {
 
 std::vector<int> records(const QVector<CustomerSearchHit>& hits) {
     std::vector<int> out;
-    for (const auto& h : hits) out.push_back(h.recordNumber);
+    for (const auto& h : hits)
+        out.push_back(h.recordNumber);
     return out;
 }
 
@@ -170,8 +172,9 @@ TEST(SearchCustomers, EachOptionSearchesItsOwnField) {
             << "field " << field;
         // The same text in another option's field is no hit.
         const int other = field == CustomerStore::ByAccountNumber ? CustomerStore::ByBusinessName : field + 1;
-        if (field != CustomerStore::ByAddress4 && field != CustomerStore::ByState)
+        if (field != CustomerStore::ByAddress4 && field != CustomerStore::ByState) {
             EXPECT_EQ(s.store.SearchCustomers(other, text, false, found).size(), 0) << "field " << other;
+        }
     }
 }
 

@@ -36,7 +36,8 @@ TEST(StatesList, ReadsExactlyFiftyFieldsInOrder) {
 TEST(StatesList, FieldsMayStandOnSeveralLines) {
     TestDataRoot t;
     QByteArray b;
-    for (int i = 0; i < 50; ++i) b += "\"X" + QByteArray::number(i) + "\"\r\n";
+    for (int i = 0; i < 50; ++i)
+        b += "\"X" + QByteArray::number(i) + "\"\r\n";
     t.writeBytes("/StatesList.txt", b);
     EXPECT_EQ(ReadStatesList(t.disk()).at(49), "X49");
 }

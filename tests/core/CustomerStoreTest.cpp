@@ -1,5 +1,5 @@
-#include "TestDataRoot.h"
 #include "accounts/CustomerStore.h"
+#include "TestDataRoot.h"
 #include "store/StoreError.h"
 
 #include <gtest/gtest.h>
@@ -84,7 +84,8 @@ TEST(CustomerStore, ReadAndWriteNeedTheCustomerFileOnThePrimaryChannel) {
 TEST(CustomerStore, SavingARecordUnchangedGivesTheSameBytes) {
     Shop s;
     QByteArray raw(328, '\0');
-    for (int i = 0; i < raw.size(); ++i) raw[i] = static_cast<char>((i * 37) % 256); // every byte value
+    for (int i = 0; i < raw.size(); ++i)
+        raw[i] = static_cast<char>((i * 37) % 256); // every byte value
     s.t.writeBytes("/CustomerData.txt", QByteArray(328, 'a') + raw + QByteArray(328, 'c'));
     const QByteArray before = s.t.readBytes("/CustomerData.txt");
     s.store.OpenCustomerFile();
@@ -202,8 +203,9 @@ TEST(CustomerStore, ACycleFileDeletedFromOutsideIsRebuiltWithOneDefaultRecordPer
     s.t.writeBytes("/ContractInfo.txt", QByteArray(3 * 386, 'k'));
     std::vector<Box> boxes;
     s.store.ResetCompanionBuffers(kToday);
-    s.store.RebuildMissingCompanions(s.store.CustomerCount(),
-                                     [&](const QString& p, const QString& t) { boxes.push_back({p, t}); });
+    s.store.RebuildMissingCompanions(s.store.CustomerCount(), [&](const QString& p, const QString& t) {
+        boxes.push_back({p, t});
+    });
     EXPECT_TRUE(boxes.empty());
     CycleInfoRecord defaults;
     defaults.ResetToDefaults();
@@ -240,9 +242,11 @@ TEST(CustomerStore, RebuildWithoutACustomerFileTellsTheUserAndWritesNothing) {
     s.store.RebuildCycleFile(4, sink);
     ASSERT_EQ(boxes.size(), 2u);
     EXPECT_EQ(boxes[0].title, "No Customer File Found");
-    EXPECT_EQ(boxes[0].prompt, "Your Customer Information File is missing\nThe Contract File can not be rebuilt");
+    EXPECT_EQ(boxes[0].prompt,
+              "Your Customer Information File is missing\nThe Contract File can not be rebuilt");
     EXPECT_EQ(boxes[1].title, "No Customer File Found");
-    EXPECT_EQ(boxes[1].prompt, "Your Customer Information File is missing\nThe Cycle File can not be rebuilt");
+    EXPECT_EQ(boxes[1].prompt,
+              "Your Customer Information File is missing\nThe Cycle File can not be rebuilt");
     EXPECT_FALSE(s.t.isFile("/ContractInfo.txt"));
     EXPECT_FALSE(s.t.isFile("/CycleInfo.txt"));
 }

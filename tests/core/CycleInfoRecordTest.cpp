@@ -32,4 +32,6 @@ TEST(CycleInfoRecord, LayoutCoversTheRecordWithoutGapOrOverlap) {
     EXPECT_EQ(next, CycleInfoRecord::kLength);
 }
 
-TEST(CycleInfoRecord, ARecordOfTheWrongLengthIsRefused) { EXPECT_THROW(CycleInfoRecord{Record(70)}, StoreError); }
+TEST(CycleInfoRecord, ARecordOfTheWrongLengthIsRefused) {
+    EXPECT_THROW(CycleInfoRecord{Record(70)}, StoreError);
+}

@@ -242,6 +242,7 @@ TEST(DayScheduleValue, CopiesToAndFromAGridAndRefusesRowsOutsideTheDay) {
 TEST(LegacyDaySchedules, EveryFixtureDayReadsAndWritesBackByteForByte) {
     OSTREL_REQUIRE_LEGACY_FIXTURE();
     const QString fixture = ostrel::test::legacyFixture();
+    TestDataRoot t;
     int files = 0;
     for (int n = 1; n <= 3; ++n) {
         const QDir dir(fixture + "/2026/DaySchedules" + QString::number(n));
@@ -249,7 +250,6 @@ TEST(LegacyDaySchedules, EveryFixtureDayReadsAndWritesBackByteForByte) {
             const int dayOfYear = name.chopped(4).toInt();
             const QString rel = daySchedulePath(2026, n, dayOfYear);
             const QByteArray original = legacyBytes(rel);
-            TestDataRoot t;
             t.writeBytes(rel, original);
             Grid g = labelledGrid();
             loadDaySchedule(t.disk(), 2026, n, dayOfYear, g);

@@ -1,6 +1,6 @@
+#include "setup/LogoSettings.h"
 #include "TestDataRoot.h"
 #include "setup/CompanyLogo.h"
-#include "setup/LogoSettings.h"
 #include "store/StoreError.h"
 
 #include <QTemporaryDir>
@@ -95,10 +95,10 @@ TEST(CompanyLogoFile, StoredPathLoadsThePictureWhenItIsThere) {
 
 TEST(CompanyLogoFile, PathThatNoLongerExistsLeavesThePictureEmpty) {
     TestDataRoot t;
-    t.writeBytes("/CompanyLogo.txt", "\"C:\\Norlavex\\Logo.bmp\"\r\n");
+    t.writeBytes("/CompanyLogo.txt", "\"C:\\Shop\\Logo.bmp\"\r\n");
     CompanyLogo logo;
     ASSERT_TRUE(LoadCompanyLogo(t.disk(), logo));
-    EXPECT_EQ(logo.path, "C:\\Norlavex\\Logo.bmp");
+    EXPECT_EQ(logo.path, "C:\\Shop\\Logo.bmp");
     EXPECT_FALSE(logo.pictureLoaded);
 }
 

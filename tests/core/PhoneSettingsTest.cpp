@@ -1,5 +1,5 @@
-#include "TestDataRoot.h"
 #include "setup/PhoneSettings.h"
+#include "TestDataRoot.h"
 #include "store/StoreError.h"
 
 #include <gtest/gtest.h>

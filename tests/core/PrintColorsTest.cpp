@@ -1,5 +1,5 @@
-#include "TestDataRoot.h"
 #include "setup/PrintColors.h"
+#include "TestDataRoot.h"
 #include "store/StoreError.h"
 
 #include <gtest/gtest.h>
@@ -74,7 +74,8 @@ TEST(PrintColorsFile, ASystemColourNumberReadsAndWritesBackUnchanged) {
     LoadPrintColors(t.disk(), c);
     EXPECT_EQ(c.txtBorders, -2147483643);
     SavePrintColors(t.disk(), c);
-    EXPECT_EQ(t.readBytes("/PrintColors.txt"), QByteArray("-2147483643\r\n0\r\n\"Arial\"\r\n#TRUE#\r\n3\r\n"));
+    EXPECT_EQ(t.readBytes("/PrintColors.txt"),
+              QByteArray("-2147483643\r\n0\r\n\"Arial\"\r\n#TRUE#\r\n3\r\n"));
 }
 
 TEST(PrintColorsFile, CopiesOutOfByteRangeStopTheLoad) {

@@ -14,16 +14,17 @@ namespace {
 const QString kProgram = QStringLiteral("OstrelAppointmentScheduler");
 
 QStringList filesIn(const TestDataRoot& t) {
-    return QDir(t.path()).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
+    return QDir(t.path()).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
+                                    QDir::Name);
 }
 
 BusinessBoxes ownerBoxes() {
-    return {QString("Ace Repair"), QString("12 Main St"), QString(), QString("Dayton"), QString("OH"),
+    return {QString("Ace Repair"), QString("12 Main St"),   QString(), QString("Dayton"), QString("OH"),
             QString("45402"),      QString("937-555-0100"), QString(), QString()};
 }
 } // namespace
 
-TEST(FirstStart, OnlyTheSettingsFileIsWrittenDuringTheLoad) {
+TEST(SetupFirstStart, OnlyTheSettingsFileIsWrittenDuringTheLoad) {
     TestDataRoot t;
     SetupSettings s;
     LoadSetupSettings(t.disk(), kProgram, s);
@@ -38,7 +39,7 @@ TEST(FirstStart, OnlyTheSettingsFileIsWrittenDuringTheLoad) {
     EXPECT_FALSE(RequiredFilesPresent(t.disk(), kProgram));
 }
 
-TEST(FirstStart, RequiredFilesStayMissingUntilAPointOfServiceIsEntered) {
+TEST(SetupFirstStart, RequiredFilesStayMissingUntilAPointOfServiceIsEntered) {
     TestDataRoot t;
     SetupSettings s;
     LoadSetupSettings(t.disk(), kProgram, s);
@@ -51,15 +52,17 @@ TEST(FirstStart, RequiredFilesStayMissingUntilAPointOfServiceIsEntered) {
     EXPECT_TRUE(RequiredFilesPresent(t.disk(), kProgram));
 }
 
-TEST(FirstStart, LeavingSetupWritesEachFileInItsFirstRunForm) {
+TEST(SetupFirstStart, LeavingSetupWritesEachFileInItsFirstRunForm) {
     TestDataRoot t;
     SetupSettings s;
     LoadSetupSettings(t.disk(), kProgram, s);
     s.colors.ckColor = 1; // acts for this run only
     s.colors.cboCopies = "1";
     SaveSetupSettings(t.disk(), kProgram, s, ownerBoxes(), false);
-    EXPECT_EQ(t.readBytes("/MyBusinessData.txt"),
-              QByteArray("\"Ace Repair\",\"12 Main St\",\"\",\"Dayton\",\"OH\",\"45402\",\"937-555-0100\",\"\",\"\"\r\n"));
+    EXPECT_EQ(
+        t.readBytes("/MyBusinessData.txt"),
+        QByteArray(
+            "\"Ace Repair\",\"12 Main St\",\"\",\"Dayton\",\"OH\",\"45402\",\"937-555-0100\",\"\",\"\"\r\n"));
     EXPECT_EQ(t.readBytes("/TaxSettings.txt"), QByteArray("\"Sales Tax\",\"Tax\",\"4.0\",\"4.0\",0,0\r\n"));
     EXPECT_EQ(t.readBytes("/OstrelAppointmentSchedulerSettings.txt"),
               QByteArray("1,0,0,0,0,#TRUE#,#FALSE#,0,0,0,\"$0.00\",\"$0.00\",5,1,1,#TRUE#,1,1,1\r\n"));
@@ -70,7 +73,7 @@ TEST(FirstStart, LeavingSetupWritesEachFileInItsFirstRunForm) {
     EXPECT_FALSE(t.isFile("/LogoSettings.txt"));
 }
 
-TEST(StartupLoad, ShopRepairStyleLoadsTheReturnPartsText) {
+TEST(SetupStartupLoad, ShopRepairStyleLoadsTheReturnPartsText) {
     TestDataRoot t;
     t.writeBytes("/ReturnPartsInstructions.txt", "\"Keep parts\"\r\n");
     SetupSettings s;
@@ -79,7 +82,7 @@ TEST(StartupLoad, ShopRepairStyleLoadsTheReturnPartsText) {
     EXPECT_EQ(s.txtReturnParts, "Keep parts\r\n");
 }
 
-TEST(StartupLoad, AssociateSalesStyleLeavesTheReturnPartsTextUnloaded) {
+TEST(SetupStartupLoad, AssociateSalesStyleLeavesTheReturnPartsTextUnloaded) {
     TestDataRoot t;
     t.writeBytes("/OstrelAppointmentSchedulerSettings.txt",
                  "1,0,0,0,0,#TRUE#,#FALSE#,0,0,0,\"$0.00\",\"$0.00\",5,1,1,#FALSE#,1,1,1\r\n");
@@ -91,7 +94,7 @@ TEST(StartupLoad, AssociateSalesStyleLeavesTheReturnPartsTextUnloaded) {
     EXPECT_TRUE(s.txtReturnParts.isEmpty());
 }
 
-TEST(StartupLoad, TaxFileReadLastDecidesTheSecondTax) {
+TEST(SetupStartupLoad, TaxFileReadLastDecidesTheSecondTax) {
     TestDataRoot t;
     t.writeBytes("/OstrelAppointmentSchedulerSettings.txt",
                  "1,0,0,0,0,#TRUE#,#FALSE#,1,0,0,\"$0.00\",\"$0.00\",5,1,1,#TRUE#,1,1,1\r\n");
@@ -101,7 +104,7 @@ TEST(StartupLoad, TaxFileReadLastDecidesTheSecondTax) {
     EXPECT_EQ(s.program.ckApply2ndTax, 0);
 }
 
-TEST(StartupLoad, AddressStyleFollowsTheLoadedBusinessData) {
+TEST(SetupStartupLoad, AddressStyleFollowsTheLoadedBusinessData) {
     TestDataRoot t;
     t.writeBytes("/MyBusinessData.txt", "\"Ace Repair\",\"\",\"\",\"\",\"\",\"\",\"555\",\"\",\"\"\r\n");
     SetupSettings s;

@@ -14,10 +14,14 @@ using ostrel::test::TestDataRoot;
 namespace {
 const QString kProgram = QStringLiteral("OstrelAppointmentScheduler");
 
-const QStringList kSettingsFiles = {"MyBusinessData.txt", "OstrelAppointmentSchedulerSettings.txt",
-                                    "TaxSettings.txt",    "PrintColors.txt",
-                                    "LogoSettings.txt",   "ServiceAreas.txt",
-                                    "ReturnPartsInstructions.txt", "Phone.txt",
+const QStringList kSettingsFiles = {"MyBusinessData.txt",
+                                    "OstrelAppointmentSchedulerSettings.txt",
+                                    "TaxSettings.txt",
+                                    "PrintColors.txt",
+                                    "LogoSettings.txt",
+                                    "ServiceAreas.txt",
+                                    "ReturnPartsInstructions.txt",
+                                    "Phone.txt",
                                     "CallID.txt"};
 
 // The fixture is read-only: its files are copied into a fresh data root.
@@ -88,8 +92,9 @@ TEST_F(LegacySettings, SavingUnchangedGivesTheSameBytes) {
     LoadPhoneFiles(t.disk(), s.phone);
     // The owner retyped the ninth string, so every box holds what the file held.
     SaveSetupSettings(t.disk(), kProgram, s, s.business.txtBusiness, s.phone.PhoneChained);
-    for (const QString& name : QStringList{"MyBusinessData.txt", "OstrelAppointmentSchedulerSettings.txt", "TaxSettings.txt",
-                                "PrintColors.txt", "Phone.txt", "CallID.txt", "LogoSettings.txt"})
+    for (const QString& name :
+         QStringList{"MyBusinessData.txt", "OstrelAppointmentSchedulerSettings.txt", "TaxSettings.txt",
+                     "PrintColors.txt", "Phone.txt", "CallID.txt", "LogoSettings.txt"})
         EXPECT_EQ(file(name), original[name]) << name.toStdString();
     // No logo picture is stored in this tree, so leaving Setup writes no logo path.
     EXPECT_FALSE(t.isFile("/CompanyLogo.txt"));
@@ -109,9 +114,10 @@ TEST_F(LegacySettings, LeavingSetupEmptiesTheUnshownNinthBusinessString) {
     BusinessBoxes boxes;
     FillBusinessBoxes(s.business, boxes);
     SaveSetupSettings(t.disk(), kProgram, s, boxes, false);
-    EXPECT_EQ(file("MyBusinessData.txt"),
-              QByteArray("\"Prairie Comfort Heating & Air\",\"1207 Wabash Ave\",\"Suite B\",\"Springfield\",\"IL\","
-                         "\"62704\",\"217-555-0142\",\"Fax 217-555-0143  www.prairiecomfort.example\",\"\"\r\n"));
+    EXPECT_EQ(
+        file("MyBusinessData.txt"),
+        QByteArray("\"Prairie Comfort Heating & Air\",\"1207 Wabash Ave\",\"Suite B\",\"Springfield\",\"IL\","
+                   "\"62704\",\"217-555-0142\",\"Fax 217-555-0143  www.prairiecomfort.example\",\"\"\r\n"));
 }
 
 TEST_F(LegacySettings, ReturnPartsRoundAddsOneLineEndInsideTheQuotes) {
@@ -122,5 +128,6 @@ TEST_F(LegacySettings, ReturnPartsRoundAddsOneLineEndInsideTheQuotes) {
     expected.insert(expected.size() - 3, "\r\n");
     EXPECT_EQ(file("ReturnPartsInstructions.txt"), expected);
     EXPECT_EQ(file("ReturnPartsInstructions.txt"),
-              QByteArray("\"Return all replaced parts to the customer\r\nunless they ask us to dispose of them.\r\n\"\r\n"));
+              QByteArray("\"Return all replaced parts to the customer\r\nunless they ask us to dispose of "
+                         "them.\r\n\"\r\n"));
 }

@@ -96,7 +96,7 @@ TEST(SaveAssociates, NamesAreKeptExactlyWithTheirCaseAndBlanks) {
     EXPECT_EQ(LoadPointOfServiceNames(t.disk()).names(), QStringList({"crew  one ", "Crew One"}));
 }
 
-TEST(RequiredFilesPresent, TrueOnlyWhenAllFourFilesExist) {
+TEST(RequiredSetupFiles, TrueOnlyWhenAllFourFilesExist) {
     TestDataRoot t;
     writeOtherRequiredFiles(t);
     EXPECT_FALSE(RequiredFilesPresent(t.disk(), kProgram));
@@ -105,7 +105,7 @@ TEST(RequiredFilesPresent, TrueOnlyWhenAllFourFilesExist) {
     EXPECT_FALSE(RequiredFilesPresent(t.disk(), "Renamed"));
 }
 
-TEST(RequiredFilesPresent, StopsAtTheFirstMissingFileWithoutRestoringTheLaterOnes) {
+TEST(RequiredSetupFiles, StopsAtTheFirstMissingFileWithoutRestoringTheLaterOnes) {
     TestDataRoot t;
     // Business data missing; the other three have only backup copies.
     t.writeBytes("/Backup/ServiceAreas.txt", "\"Crew\"\r\n");
@@ -122,7 +122,7 @@ TEST(RequiredFilesPresent, StopsAtTheFirstMissingFileWithoutRestoringTheLaterOne
     EXPECT_TRUE(t.isFile("/OstrelAppointmentSchedulerSettings.txt"));
 }
 
-TEST(RequiredFilesPresent, SettingsFileIsTestedLast) {
+TEST(RequiredSetupFiles, SettingsFileIsTestedLast) {
     TestDataRoot t;
     t.writeBytes("/MyBusinessData.txt", "x");
     t.writeBytes("/Backup/OstrelAppointmentSchedulerSettings.txt", "1\r\n");

@@ -186,8 +186,7 @@ TEST(ProgramSettingsFile, PromptsAndAlarmsReadAsBooleansAndSaveAsCheckBoxValues)
 
 TEST(ProgramSettingsFile, GraduatedTextsStayAsTyped) {
     TestDataRoot t;
-    ProgramSettings s =
-        loadFrom(t, "1,0,0,0,0,#TRUE#,#FALSE#,0,0,1,\"1000\",\"abc\",5,1,1,#TRUE#,1,1,1\r\n");
+    ProgramSettings s = loadFrom(t, "1,0,0,0,0,#TRUE#,#FALSE#,0,0,1,\"1000\",\"abc\",5,1,1,#TRUE#,1,1,1\r\n");
     EXPECT_EQ(s.txtGradulated[0], "1000");
     EXPECT_EQ(s.txtGradulated[1], "abc");
 }
@@ -199,7 +198,8 @@ TEST(ProgramSettingsFile, FileCutShortStopsTheLoadAndKeepsTheHeldValues) {
     EXPECT_THROW(LoadSettings(t.disk(), kProgram, s), StoreError);
     EXPECT_EQ(s.ckSalesItems, 1);
     EXPECT_TRUE(s.optPlain);
-    EXPECT_EQ(t.readBytes("/OstrelAppointmentSchedulerSettings.txt"), QByteArray("0,1,1,1,1,#FALSE#,#TRUE#,1\r\n"));
+    EXPECT_EQ(t.readBytes("/OstrelAppointmentSchedulerSettings.txt"),
+              QByteArray("0,1,1,1,1,#FALSE#,#TRUE#,1\r\n"));
 }
 
 TEST(ProgramSettingsFile, AByteFieldOutOfRangeStopsTheLoadNamingTheFile) {

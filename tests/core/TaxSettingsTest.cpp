@@ -1,6 +1,6 @@
+#include "setup/TaxSettings.h"
 #include "TestDataRoot.h"
 #include "setup/ProgramSettings.h"
-#include "setup/TaxSettings.h"
 #include "store/StoreError.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +47,8 @@ TEST(TaxSettingsFile, SaveAfterChangesKeepsRatesAsText) {
     tax.ckApply1stTax = 1;
     program.ckApply2ndTax = 1;
     SaveTaxSettings(t.disk(), tax, program);
-    EXPECT_EQ(t.readBytes("/TaxSettings.txt"), QByteArray("\"VAT Tax\",\"Provincial Tax\",\"7,0\",\"6.25\",1,1\r\n"));
+    EXPECT_EQ(t.readBytes("/TaxSettings.txt"),
+              QByteArray("\"VAT Tax\",\"Provincial Tax\",\"7,0\",\"6.25\",1,1\r\n"));
     TaxSettings back;
     ProgramSettings p2;
     ASSERT_TRUE(LoadTaxSettings(t.disk(), back, p2));
@@ -97,7 +98,8 @@ TEST(TaxSettingsFile, BothFilesWriteTheOneSecondTaxBox) {
     SaveTaxSettings(t.disk(), tax, program);
     SaveSettings(t.disk(), kProgram, program);
     EXPECT_TRUE(t.readBytes("/TaxSettings.txt").endsWith(",0,1\r\n"));
-    EXPECT_TRUE(t.readBytes("/OstrelAppointmentSchedulerSettings.txt").startsWith("1,0,0,0,0,#TRUE#,#FALSE#,1,"));
+    EXPECT_TRUE(
+        t.readBytes("/OstrelAppointmentSchedulerSettings.txt").startsWith("1,0,0,0,0,#TRUE#,#FALSE#,1,"));
 }
 
 TEST(TaxSettingsFile, FileCutShortChangesNeitherObject) {
@@ -114,6 +116,6 @@ TEST(TaxSettingsFile, FileCutShortChangesNeitherObject) {
 
 TEST(TaxSettingsFile, SuggestionListsHoldSevenEntriesInOrder) {
     EXPECT_EQ(TaxRateChoices(), QStringList({"4.0", "5.0", "6.0", "7.0", "5,0", "6,0", "7,0"}));
-    EXPECT_EQ(TaxHeadingChoices(), QStringList({"Sales Tax", "State Tax", "Taxes", "VAT Tax", "Provincial Tax",
-                                                "Tax Surcharge", "GST"}));
+    EXPECT_EQ(TaxHeadingChoices(), QStringList({"Sales Tax", "State Tax", "Taxes", "VAT Tax",
+                                                "Provincial Tax", "Tax Surcharge", "GST"}));
 }

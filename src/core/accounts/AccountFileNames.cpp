@@ -15,9 +15,10 @@ QString joined(const QString& folder, const QString& account, const QString& suf
     const QStringList parts = DataRoot::parts(name); // refuses ".." and NUL itself
     if (account.isEmpty()) return name;
     if (parts.size() != 2 || parts[1] != account + suffix)
-        throw StoreError(name, QStringLiteral("The account number \"%1\" cannot name a file or folder: it holds "
-                                              "a separator or is only dots. Change the account number.")
-                                   .arg(account));
+        throw StoreError(name,
+                         QStringLiteral("The account number \"%1\" cannot name a file or folder: it holds "
+                                        "a separator or is only dots. Change the account number.")
+                             .arg(account));
     return name;
 }
 
@@ -35,6 +36,8 @@ QString AuxSubfolderName(const QString& account, int k) {
     return AuxFolderName(account) + QStringLiteral("/AuxFile%1").arg(k);
 }
 
-QString AuxDataFileName(const QString& account, int k) { return AuxSubfolderName(account, k) + QStringLiteral("/Data.txt"); }
+QString AuxDataFileName(const QString& account, int k) {
+    return AuxSubfolderName(account, k) + QStringLiteral("/Data.txt");
+}
 
 } // namespace ostrel

@@ -10,12 +10,14 @@ namespace ostrel::AuxData {
 QStringList ReadAuxHeadings(DiskRoutines& disk) {
     QStringList headings;
     if (!disk.FileExists(kHeadingsFile)) {
-        for (int k = 0; k < kBoxes; ++k) headings << QString();
+        for (int k = 0; k < kBoxes; ++k)
+            headings << QString();
         return headings;
     }
     TextReader& in = disk.OpenForInput(kHeadingsFile);
     try {
-        for (int k = 0; k < kBoxes; ++k) headings << in.readLine();
+        for (int k = 0; k < kBoxes; ++k)
+            headings << in.readLine();
     } catch (const StoreError&) {
         disk.CloseAllFiles();
         throw StoreError(kHeadingsFile, QStringLiteral("The file holds fewer than six headings."));
@@ -26,7 +28,8 @@ QStringList ReadAuxHeadings(DiskRoutines& disk) {
 
 void SaveAuxHeadings(DiskRoutines& disk, const QStringList& headings) {
     TextWriter out;
-    for (int k = 0; k < kBoxes; ++k) out.print(headings.value(k));
+    for (int k = 0; k < kBoxes; ++k)
+        out.print(headings.value(k));
     disk.DeleteFileAndBackup(kHeadingsFile);
     disk.OpenForOutput(kHeadingsFile) = out;
     disk.CloseAllFiles();
@@ -39,7 +42,8 @@ QStringList LoadAuxData(DiskRoutines& disk, const QString& account) {
         const QString name = AuxDataFileName(account, k);
         if (disk.FileExists(name)) {
             TextReader& in = disk.OpenForInput(name);
-            while (!in.atEnd()) box += in.readString() + kLineBreak;
+            while (!in.atEnd())
+                box += in.readString() + kLineBreak;
             disk.CloseAllFiles();
         }
         boxes << box;
@@ -48,7 +52,8 @@ QStringList LoadAuxData(DiskRoutines& disk, const QString& account) {
 }
 
 void SaveAuxData(DiskRoutines& disk, const QString& account, const QStringList& boxes) {
-    for (int k = 0; k < kBoxes; ++k) disk.DeleteDataFile(AuxDataFileName(account, k));
+    for (int k = 0; k < kBoxes; ++k)
+        disk.DeleteDataFile(AuxDataFileName(account, k));
     // A customer added in this run has no folders yet.
     disk.MakeDirectoryIfAbsent(QStringLiteral("/AuxFiles"));
     disk.MakeDirectoryIfAbsent(AuxFolderName(account));

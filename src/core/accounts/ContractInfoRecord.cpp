@@ -13,7 +13,8 @@ ContractInfoRecord::ContractInfoRecord(Record record) : m_record(std::move(recor
 
 QString WeekdayName(QDate day) {
     // Fixed English names: the file format does not follow the desktop's language.
-    static const char* const names[] = {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
+    static const char* const names[] = {"Monday", "Tuesday",  "Wednesday", "Thursday",
+                                        "Friday", "Saturday", "Sunday"};
     const int d = day.dayOfWeek();
     return d >= 1 && d <= 7 ? QString::fromLatin1(names[d - 1]) : QString();
 }
@@ -31,8 +32,15 @@ void ContractInfoRecord::ResetToDefaults(QDate today) {
     r.setInt16(125, -1);
     r.setInt16(127, 0);
     r.setText(129, 20, u"None");
-    for (const auto& [offset, width] : {std::pair{149, 20}, {169, 30}, {234, 25}, {259, 20}, {279, 2}, {281, 10},
-                                        {291, 13}, {304, 30}, {336, 50}})
+    for (const auto& [offset, width] : {std::pair{149, 20},
+                                        {169, 30},
+                                        {234, 25},
+                                        {259, 20},
+                                        {279, 2},
+                                        {281, 10},
+                                        {291, 13},
+                                        {304, 30},
+                                        {336, 50}})
         r.setText(offset, width, u"");
     r.setInt16(334, 0);
 }

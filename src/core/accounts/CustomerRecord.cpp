@@ -16,13 +16,16 @@ Record checkedLength(Record record, int length, const char* what) {
 }
 } // namespace
 
-CustomerRecord::CustomerRecord(Record record) : m_record(checkedLength(std::move(record), kLength, "customer")) {}
+CustomerRecord::CustomerRecord(Record record)
+    : m_record(checkedLength(std::move(record), kLength, "customer")) {}
 
-bool CustomerRecord::IsBusiness() const { return vbTrim(AccountType()) == u"Business"; }
+bool CustomerRecord::IsBusiness() const {
+    return vbTrim(AccountType()) == u"Business";
+}
 
 void CustomerRecord::ClearForNewAccount() {
-    for (const Field f : {kBusinessName, kFirstName, kMiddleInitial, kLastName, kAddress1, kAddress2, kCity, kState,
-                          kAddress4, kTelephone, kEmail, kAccountNumber, kCellPhone, kTitle})
+    for (const Field f : {kBusinessName, kFirstName, kMiddleInitial, kLastName, kAddress1, kAddress2, kCity,
+                          kState, kAddress4, kTelephone, kEmail, kAccountNumber, kCellPhone, kTitle})
         setText(f, u"");
     SetAccountType(u"Business");
     SetCustomerReserved(0);

@@ -14,9 +14,18 @@ namespace {
 void requireStorable(const QString& name, int r) {
     // Record numbers are 16-bit in the files' own format: one more would not read back.
     if (r > CustomerStore::kMostCustomers)
-        throw StoreError(name, QStringLiteral("The customer files hold 32,767 customers, the most they may hold; "
-                                              "customer %1 cannot be stored.")
-                                   .arg(r));
+        throw StoreError(name,
+                         QStringLiteral("The customer files hold 32,767 customers, the most they may hold; "
+                                        "customer %1 cannot be stored.")
+                             .arg(r));
+}
+
+RandomFile& customerChannel(DiskRoutines& disk) {
+    RandomFile& f = disk.Random(disk.PrimaryChannel);
+    if (f.recordLength() != CustomerRecord::kLength)
+        throw StoreError(f.name(),
+                         QStringLiteral("The customer file is not the file open on the primary channel."));
+    return f;
 }
 
 } // namespace
@@ -25,16 +34,13 @@ int CustomerStore::CustomerCount() {
     return m_disk.FileRecordCount(QStringLiteral("\\CustomerData.txt"), CustomerRecord::kLength);
 }
 
-RandomFile& CustomerStore::OpenCustomerFile() { return m_disk.OpenCustomerFile(); }
-
-static RandomFile& customerChannel(DiskRoutines& disk) {
-    RandomFile& f = disk.Random(disk.PrimaryChannel);
-    if (f.recordLength() != CustomerRecord::kLength)
-        throw StoreError(f.name(), QStringLiteral("The customer file is not the file open on the primary channel."));
-    return f;
+RandomFile& CustomerStore::OpenCustomerFile() {
+    return m_disk.OpenCustomerFile();
 }
 
-void CustomerStore::ReadCustomer(int r) { m_buffers.customer = CustomerRecord(customerChannel(m_disk).get(r)); }
+void CustomerStore::ReadCustomer(int r) {
+    m_buffers.customer = CustomerRecord(customerChannel(m_disk).get(r));
+}
 
 void CustomerStore::WriteCustomer(int r) {
     RandomFile& f = customerChannel(m_disk);
@@ -97,7 +103,8 @@ void CustomerStore::rebuildCompanion(const QString& name, int recordLength, cons
     m_disk.DeleteFileAndBackup(name);
     QByteArray bytes;
     bytes.reserve(static_cast<qsizetype>(recordLength) * std::max(count, 0));
-    for (int r = 1; r <= count; ++r) bytes += defaults.bytes();
+    for (int r = 1; r <= count; ++r)
+        bytes += defaults.bytes();
     writeWhole(name, recordLength, bytes);
 }
 
@@ -107,8 +114,8 @@ void CustomerStore::RebuildContractFile(int count, const CustomerMessage& messag
 }
 
 void CustomerStore::RebuildCycleFile(int count, const CustomerMessage& message) {
-    rebuildCompanion(kCycleFile, CycleInfoRecord::kLength, m_buffers.cycle.record(), count, QStringLiteral("Cycle"),
-                     message);
+    rebuildCompanion(kCycleFile, CycleInfoRecord::kLength, m_buffers.cycle.record(), count,
+                     QStringLiteral("Cycle"), message);
 }
 
 void CustomerStore::RebuildMissingCompanions(int count, const CustomerMessage& message) {

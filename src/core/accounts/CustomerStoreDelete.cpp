@@ -10,8 +10,8 @@ void CustomerStore::compact(const QString& scratch, const QString& target, int r
                             bool secondary) {
     const int count = m_disk.FileRecordCount(target, static_cast<qint16>(recordLength));
     m_disk.OpenRandom(scratch, recordLength); // its own channel, opened before the source as ever
-    RandomFile& source =
-        secondary ? m_disk.OpenRandomSecondary(target, recordLength) : m_disk.OpenRandom(target, recordLength);
+    RandomFile& source = secondary ? m_disk.OpenRandomSecondary(target, recordLength)
+                                   : m_disk.OpenRandom(target, recordLength);
     QByteArray copies;
     copies.reserve(static_cast<qsizetype>(recordLength) * count);
     for (int i = 1; i < count + 1; ++i)

@@ -15,12 +15,26 @@ namespace {
 
 std::optional<CustomerRecord::Field> searchedField(int field) {
     static constexpr std::array<CustomerRecord::Field, 9> fields{
-        CustomerRecord::kBusinessName, CustomerRecord::kAddress1,  CustomerRecord::kAddress2,
-        CustomerRecord::kCity,         CustomerRecord::kState,     CustomerRecord::kAddress4,
-        CustomerRecord::kTelephone,    CustomerRecord::kLastName,  CustomerRecord::kAccountNumber,
+        CustomerRecord::kBusinessName, CustomerRecord::kAddress1, CustomerRecord::kAddress2,
+        CustomerRecord::kCity,         CustomerRecord::kState,    CustomerRecord::kAddress4,
+        CustomerRecord::kTelephone,    CustomerRecord::kLastName, CustomerRecord::kAccountNumber,
     };
     if (field < 0 || field >= static_cast<int>(fields.size())) return std::nullopt;
     return fields[static_cast<size_t>(field)];
+}
+
+QString trimmed(const Record& record, CustomerRecord::Field f) {
+    return FieldScan::trimmedText(record.bytes().constData() + f.offset, f.width);
+}
+
+// The grid's row for a hit, read straight from the bytes: a full file can give thousands of hits.
+CustomerSearchHit searchHit(const Record& record, int recordNumber) {
+    using C = CustomerRecord;
+    const QString name = trimmed(record, C::kAccountType) == u"Business"
+                             ? trimmed(record, C::kBusinessName)
+                             : ComposeName(trimmed(record, C::kTitle), trimmed(record, C::kFirstName),
+                                           trimmed(record, C::kMiddleInitial), trimmed(record, C::kLastName));
+    return CustomerSearchHit{name, trimmed(record, C::kTelephone), recordNumber};
 }
 
 } // namespace
@@ -43,7 +57,8 @@ bool CustomerStore::FindAccountElsewhere(const QString& account, int current) {
     return found;
 }
 
-QVector<CustomerSearchHit> CustomerStore::SearchCustomers(int field, const QString& text, bool listAll, int& found) {
+QVector<CustomerSearchHit> CustomerStore::SearchCustomers(int field, const QString& text, bool listAll,
+                                                          int& found) {
     found = 0;
     QVector<CustomerSearchHit> hits;
     if (!m_disk.FileExists(kCustomerFile)) return hits;
@@ -55,11 +70,10 @@ QVector<CustomerSearchHit> CustomerStore::SearchCustomers(int field, const QStri
     std::optional<Record> last;
     for (int r = 1; r <= count; ++r) {
         last = file.get(r);
-        const bool hit = listAll || (chosen && scan.trimmedUpperContains(last->bytes().constData() + chosen->offset,
-                                                                         chosen->width, needle));
-        if (!hit) continue;
-        const CustomerRecord customer(*last);
-        hits.append(CustomerSearchHit{SearchResultName(customer), vbTrim(customer.Telephone()), r});
+        const bool hit =
+            listAll || (chosen && scan.trimmedUpperContains(last->bytes().constData() + chosen->offset,
+                                                            chosen->width, needle));
+        if (hit) hits.append(searchHit(*last, r));
     }
     m_disk.CloseAllFiles();
     if (last) m_buffers.customer = CustomerRecord(std::move(*last));

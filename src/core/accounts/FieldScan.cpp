@@ -13,7 +13,8 @@ struct Tables {
     std::array<QChar, 256> upper;
     Tables() {
         QByteArray all(256, '\0');
-        for (int i = 0; i < 256; ++i) all[i] = static_cast<char>(i);
+        for (int i = 0; i < 256; ++i)
+            all[i] = static_cast<char>(i);
         const QString decoded = cp1252::decode(all);
         for (int i = 0; i < 256; ++i) {
             plain[i] = decoded.at(i);
@@ -28,7 +29,8 @@ const Tables& tables() {
 }
 
 void trimBlanks(const char*& field, int& width) {
-    while (width > 0 && field[width - 1] == ' ') --width;
+    while (width > 0 && field[width - 1] == ' ')
+        --width;
     while (width > 0 && *field == ' ') {
         ++field;
         --width;
@@ -46,9 +48,19 @@ bool FieldScan::trimmedEquals(const char* field, int width, QStringView text) {
     return true;
 }
 
+QString FieldScan::trimmedText(const char* field, int width) {
+    trimBlanks(field, width);
+    QString out(width, Qt::Uninitialized);
+    const auto& plain = tables().plain;
+    for (int i = 0; i < width; ++i)
+        out[i] = plain[static_cast<unsigned char>(field[i])];
+    return out;
+}
+
 QString FieldScan::upper(QStringView text) {
     QString out(text.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < text.size(); ++i) out[i] = text[i].toUpper();
+    for (qsizetype i = 0; i < text.size(); ++i)
+        out[i] = text[i].toUpper();
     return out;
 }
 
@@ -58,7 +70,8 @@ bool FieldScan::trimmedUpperContains(const char* field, int width, QStringView u
     m_scratch.resize(width);
     QChar* out = m_scratch.data();
     const auto& upperTable = tables().upper;
-    for (int i = 0; i < width; ++i) out[i] = upperTable[static_cast<unsigned char>(field[i])];
+    for (int i = 0; i < width; ++i)
+        out[i] = upperTable[static_cast<unsigned char>(field[i])];
     return QStringView(m_scratch.constData(), width).contains(upperNeedle);
 }
 

@@ -12,6 +12,9 @@ public:
     // The field, blanks trimmed on both sides, equals `text` exactly.
     static bool trimmedEquals(const char* field, int width, QStringView text);
 
+    // The field decoded with its blanks trimmed on both sides.
+    static QString trimmedText(const char* field, int width);
+
     // Upper case as the field comparison sees it (one character for one, so "ß" stays).
     static QString upper(QStringView text);
 

@@ -12,10 +12,12 @@ QStringList ReadStatesList(DiskRoutines& disk) {
     if (!disk.FileExists(name)) return states;
     TextReader& in = disk.OpenForInput(name);
     try {
-        for (int i = 0; i < kStates; ++i) states << in.readString();
+        for (int i = 0; i < kStates; ++i)
+            states << in.readString();
     } catch (const StoreError&) {
         disk.CloseAllFiles();
-        throw StoreError(name, QStringLiteral("The list holds %1 state codes where 50 are needed.").arg(states.size()));
+        throw StoreError(
+            name, QStringLiteral("The list holds %1 state codes where 50 are needed.").arg(states.size()));
     }
     disk.CloseAllFiles();
     return states;

@@ -26,10 +26,11 @@ private:
 
 void CheckCatalogueCount(const QString& name, qsizetype count) {
     if (count <= kMaxCatalogueRecords) return;
-    throw StoreError(name, QStringLiteral("The catalogue holds %1 entries here, but a catalogue file can hold at "
-                                          "most %2. Nothing was changed.")
-                               .arg(count)
-                               .arg(kMaxCatalogueRecords));
+    throw StoreError(name,
+                     QStringLiteral("The catalogue holds %1 entries here, but a catalogue file can hold at "
+                                    "most %2. Nothing was changed.")
+                         .arg(count)
+                         .arg(kMaxCatalogueRecords));
 }
 
 QVector<Record> ReadCatalogueRecords(DiskRoutines& disk, const QString& name, int recordLength) {
@@ -39,7 +40,8 @@ QVector<Record> ReadCatalogueRecords(DiskRoutines& disk, const QString& name, in
     CheckCatalogueCount(name, count);
     QVector<Record> records;
     records.reserve(count);
-    for (int r = 1; r <= count; ++r) records.append(file.get(r));
+    for (int r = 1; r <= count; ++r)
+        records.append(file.get(r));
     disk.CloseAllFiles();
     return records;
 }
@@ -51,7 +53,8 @@ void WriteCatalogueRecords(DiskRoutines& disk, const QString& name, int recordLe
     if (records.isEmpty()) return;
     ClosedOnExit guard(disk);
     RandomFile& file = disk.OpenRandom(name, recordLength);
-    for (qsizetype i = 0; i < records.size(); ++i) file.put(static_cast<int>(i + 1), records[i]);
+    for (qsizetype i = 0; i < records.size(); ++i)
+        file.put(static_cast<int>(i + 1), records[i]);
     disk.CloseAllFiles();
 }
 

@@ -18,7 +18,8 @@ QVector<Record> ReadCatalogueRecords(DiskRoutines& disk, const QString& name, in
 
 template <typename R> QVector<R> ReadCatalogueFile(DiskRoutines& disk) {
     QVector<R> out;
-    for (const Record& r : ReadCatalogueRecords(disk, R::kFileName, R::kLength)) out.append(R::fromRecord(r));
+    for (const Record& r : ReadCatalogueRecords(disk, R::kFileName, R::kLength))
+        out.append(R::fromRecord(r));
     return out;
 }
 

@@ -5,7 +5,9 @@
 namespace ostrel {
 
 namespace {
-QString indexed(const char* name, int i) { return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i); }
+QString indexed(const char* name, int i) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i);
+}
 
 void setUp(Grid& g, const char* name, int cols) {
     g.name = QLatin1String(name);

@@ -13,7 +13,7 @@ struct CatalogueGrids {
                      // 6 discount quantity, 7 reorder amount, 8 reorder at
     Grid fgCustom;   // 0 description, 1 price, 2 discount price, 3 discount quantity
     ComboBox cboCategory;
-    ListBox lstTime; // the 33 allotted times
+    ListBox lstTime;                    // the 33 allotted times
     ControlArray<TextBox> txtLabor;     // headings 0 to 2
     ControlArray<TextBox> txtLaborRate; // hourly rates 0 to 2, as shown
     ControlArray<CommandButton> cmdServices;

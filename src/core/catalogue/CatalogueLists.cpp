@@ -3,7 +3,9 @@
 namespace ostrel {
 
 namespace {
-QString indexed(const char* name, int i) { return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i); }
+QString indexed(const char* name, int i) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i);
+}
 } // namespace
 
 CatalogueLists::CatalogueLists() {

@@ -19,7 +19,8 @@ int addAndLocate(ListControl& list, const QString& item) {
     const QStringList before = list.items;
     list.AddItem(item);
     int i = 0;
-    while (i < before.size() && before[i] == list.items[i]) ++i;
+    while (i < before.size() && before[i] == list.items[i])
+        ++i;
     return i;
 }
 
@@ -27,7 +28,8 @@ void addRow(Grid& g, std::initializer_list<QString> cells) {
     const int row = g.Rows();
     g.SetRows(row + 1);
     int c = 0;
-    for (const QString& text : cells) g.SetTextMatrix(row, c++, text);
+    for (const QString& text : cells)
+        g.SetTextMatrix(row, c++, text);
 }
 
 // A charge shown as money, as a whole number for the invoice's list; a charge that is no number
@@ -38,7 +40,9 @@ qint32 wholeCharge(const QString& charge) {
     return static_cast<qint32>(*v);
 }
 
-bool gridHasData(const Grid& g) { return g.Rows() >= 2 && !g.TextMatrix(1, 0).isEmpty(); }
+bool gridHasData(const Grid& g) {
+    return g.Rows() >= 2 && !g.TextMatrix(1, 0).isEmpty();
+}
 
 [[noreturn]] void badCell(const QString& file, const Grid& g, int row, int col, const char* kind) {
     throw StoreError(file, QStringLiteral("Row %1 of the %2 grid holds \"%3\" in column %4, which is not %5. "
@@ -70,7 +74,9 @@ template <typename T> T wholeCell(const QString& file, const Grid& g, int row, i
 CatalogueStore::CatalogueStore(DiskRoutines& disk, CatalogueGrids& grids, CatalogueLists& lists)
     : m_disk(disk), m_grids(grids), m_lists(lists) {}
 
-QString CatalogueStore::timeEntry(int index) const { return m_grids.lstTime.List(index); }
+QString CatalogueStore::timeEntry(int index) const {
+    return m_grids.lstTime.List(index);
+}
 
 qint16 CatalogueStore::timeIndexOf(const QString& text) const {
     const qsizetype i = m_grids.lstTime.items.indexOf(text);
@@ -99,7 +105,7 @@ bool CatalogueStore::LoadServices() {
         g.SetTextMatrix(row, 0, vbTrim(s.Description));
         g.SetTextMatrix(row, 1, vbTrim(s.Charge));
         // No service is shorter than one slot.
-        g.SetTextMatrix(row, 2, timeEntry(s.TimeIndex));
+        g.SetTextMatrix(row, 2, timeEntry(s.TimeIndex == 0 ? 1 : s.TimeIndex));
     }
     for (int row = 1; row <= count; ++row) {
         const QString description = g.TextMatrix(row, 0);

@@ -7,11 +7,13 @@ namespace ostrel::currencytext {
 QString format(qint64 tenThousandths) {
     const bool negative = tenThousandths < 0;
     // Unsigned so that the most negative amount has a magnitude too.
-    quint64 magnitude = negative ? 0 - static_cast<quint64>(tenThousandths) : static_cast<quint64>(tenThousandths);
+    quint64 magnitude =
+        negative ? 0 - static_cast<quint64>(tenThousandths) : static_cast<quint64>(tenThousandths);
     quint64 cents = magnitude / 100;
     if (magnitude % 100 >= 50) ++cents;
     QString whole = QString::number(cents / 100);
-    for (qsizetype i = whole.size() - 3; i > 0; i -= 3) whole.insert(i, u',');
+    for (qsizetype i = whole.size() - 3; i > 0; i -= 3)
+        whole.insert(i, u',');
     const QString body = QStringLiteral("$%1.%2").arg(whole).arg(cents % 100, 2, 10, QLatin1Char('0'));
     return negative ? u'(' + body + u')' : body;
 }
@@ -19,12 +21,16 @@ QString format(qint64 tenThousandths) {
 namespace {
 
 QStringView trimBlanks(QStringView t) {
-    while (!t.isEmpty() && t.front() == u' ') t = t.sliced(1);
-    while (!t.isEmpty() && t.back() == u' ') t.chop(1);
+    while (!t.isEmpty() && t.front() == u' ')
+        t = t.sliced(1);
+    while (!t.isEmpty() && t.back() == u' ')
+        t.chop(1);
     return t;
 }
 
-bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+bool isDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
 
 } // namespace
 
@@ -53,13 +59,15 @@ std::optional<qint64> parseScaled(QStringView text, int decimals) {
     for (; i < t.size() && (isDigit(t[i]) || t[i] == u','); ++i) {
         if (t[i] == u',') continue;
         anyDigit = true;
-        if (qMulOverflow(value, qint64(10), &value) || qAddOverflow(value, qint64(t[i].unicode() - u'0'), &value))
+        if (qMulOverflow(value, qint64(10), &value) ||
+            qAddOverflow(value, qint64(t[i].unicode() - u'0'), &value))
             return std::nullopt;
     }
     QStringView fraction;
     if (i < t.size() && t[i] == u'.') {
         const qsizetype start = ++i;
-        while (i < t.size() && isDigit(t[i])) ++i;
+        while (i < t.size() && isDigit(t[i]))
+            ++i;
         fraction = t.sliced(start, i - start);
         anyDigit = anyDigit || !fraction.isEmpty();
     }
@@ -67,14 +75,16 @@ std::optional<qint64> parseScaled(QStringView text, int decimals) {
 
     for (int d = 0; d < decimals; ++d) {
         const qint64 digit = d < fraction.size() ? fraction[d].unicode() - u'0' : 0;
-        if (qMulOverflow(value, qint64(10), &value) || qAddOverflow(value, digit, &value)) return std::nullopt;
+        if (qMulOverflow(value, qint64(10), &value) || qAddOverflow(value, digit, &value))
+            return std::nullopt;
     }
     // Round half to even on what lies past the kept decimals.
     const QStringView rest = decimals < fraction.size() ? fraction.sliced(decimals) : QStringView();
     if (!rest.isEmpty()) {
         const int first = rest.front().unicode() - u'0';
         bool tail = false;
-        for (qsizetype k = 1; k < rest.size(); ++k) tail = tail || rest[k] != u'0';
+        for (qsizetype k = 1; k < rest.size(); ++k)
+            tail = tail || rest[k] != u'0';
         const bool up = first > 5 || (first == 5 && (tail || value % 2 != 0));
         if (up && qAddOverflow(value, qint64(1), &value)) return std::nullopt;
     }

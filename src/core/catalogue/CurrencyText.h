@@ -17,7 +17,11 @@ QString format(qint64 tenThousandths);
 // character or a value past 64 bits gives nothing.
 std::optional<qint64> parseScaled(QStringView text, int decimals);
 
-inline std::optional<qint64> parseCurrency(QStringView text) { return parseScaled(text, 4); }
-inline std::optional<qint64> parseWhole(QStringView text) { return parseScaled(text, 0); }
+inline std::optional<qint64> parseCurrency(QStringView text) {
+    return parseScaled(text, 4);
+}
+inline std::optional<qint64> parseWhole(QStringView text) {
+    return parseScaled(text, 0);
+}
 
 } // namespace ostrel::currencytext

@@ -21,7 +21,8 @@ void LoadLabor(DiskRoutines& disk, CatalogueGrids& grids) {
     TextReader in = disk.ReadTextFile(kLaborFileName);
     // Read all six fields before touching a box, so that a short file changes nothing.
     std::array<QString, 6> fields;
-    for (QString& f : fields) f = in.readString();
+    for (QString& f : fields)
+        f = in.readString();
     for (int i = 0; i <= 2; ++i) {
         grids.txtLabor[i].text = fields[2 * i];
         grids.txtLaborRate[i].text = fields[2 * i + 1];
@@ -31,7 +32,8 @@ void LoadLabor(DiskRoutines& disk, CatalogueGrids& grids) {
 
 void SaveLabor(DiskRoutines& disk, const CatalogueGrids& grids) {
     TextWriter out;
-    for (int i = 0; i <= 2; ++i) out.write({grids.txtLabor[i].text, grids.txtLaborRate[i].text});
+    for (int i = 0; i <= 2; ++i)
+        out.write({grids.txtLabor[i].text, grids.txtLaborRate[i].text});
     disk.ReplaceTextFile(kLaborFileName, out);
 }
 

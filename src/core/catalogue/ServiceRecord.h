@@ -14,8 +14,8 @@ struct ServiceRecord {
     static constexpr int kTimeIndexOffset = 70;
     static const QString kFileName;
 
-    QString Description; // blank-padded as stored
-    QString Charge;      // the price as shown, such as "$45.00"
+    QString Description;  // blank-padded as stored
+    QString Charge;       // the price as shown, such as "$45.00"
     qint16 TimeIndex = 0; // 15-minute slots, a position in the time list
 
     static ServiceRecord fromRecord(const Record& r);

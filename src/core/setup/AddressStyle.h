@@ -21,6 +21,8 @@ QString ToggledAddressCaption(const QString& caption);
 // opposite of what the tests set. The caption before the first decision is kUsaStyleAddress.
 QString DecideAddressStyle(const BusinessData& data, const QString& current = kUsaStyleAddress);
 
-inline bool IsUsaStyle(const QString& caption) { return caption == kUsaStyleAddress; }
+inline bool IsUsaStyle(const QString& caption) {
+    return caption == kUsaStyleAddress;
+}
 
 } // namespace ostrel

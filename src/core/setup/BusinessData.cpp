@@ -9,13 +9,15 @@ bool LoadBusinessData(DiskRoutines& disk, BusinessData& data) {
     if (!disk.FileExists(kBusinessDataFile)) return false;
     SettingsFieldReader in(disk.ReadTextFile(kBusinessDataFile));
     BusinessData read;
-    for (QString& s : read.txtBusiness) s = in.readString();
+    for (QString& s : read.txtBusiness)
+        s = in.readString();
     data = read;
     return true;
 }
 
 void FillBusinessBoxes(const BusinessData& data, BusinessBoxes& txtBusiness) {
-    for (int i = 0; i < BusinessData::kShownOnLoad; ++i) txtBusiness[i] = data.txtBusiness[i];
+    for (int i = 0; i < BusinessData::kShownOnLoad; ++i)
+        txtBusiness[i] = data.txtBusiness[i];
 }
 
 void SaveBusiness(DiskRoutines& disk, BusinessData& data, const BusinessBoxes& txtBusiness) {

@@ -19,9 +19,9 @@ struct BusinessData {
     const QString& companyName() const { return txtBusiness[0]; }
     const QString& address1() const { return txtBusiness[1]; }
     const QString& address2() const { return txtBusiness[2]; }
-    const QString& city() const { return txtBusiness[3]; }        // "Address 3" in International style
-    const QString& state() const { return txtBusiness[4]; }       // "Address 4" in International style
-    const QString& postalCode() const { return txtBusiness[5]; }  // empty in International style
+    const QString& city() const { return txtBusiness[3]; }       // "Address 3" in International style
+    const QString& state() const { return txtBusiness[4]; }      // "Address 4" in International style
+    const QString& postalCode() const { return txtBusiness[5]; } // empty in International style
     const QString& telephone() const { return txtBusiness[6]; }
     const QString& furtherInfo() const { return txtBusiness[7]; } // fax, e-mail or web
     const QString& taxRegistration() const { return txtBusiness[8]; }

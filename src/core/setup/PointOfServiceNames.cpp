@@ -14,14 +14,16 @@ PointOfServiceNames LoadPointOfServiceNames(DiskRoutines& disk) {
     if (!disk.FileExists(kServiceAreasFile)) return table;
     SettingsFieldReader in(disk.ReadTextFile(kServiceAreasFile));
     QStringList names;
-    while (!in.atEnd()) names.append(in.readString());
+    while (!in.atEnd())
+        names.append(in.readString());
     table.reset(PointOfServiceNames::kPopulated, names);
     return table;
 }
 
 void SaveAssociates(DiskRoutines& disk, const QStringList& listEntries, PointOfServiceNames& table) {
     TextWriter out;
-    for (const QString& name : listEntries) out.write({name});
+    for (const QString& name : listEntries)
+        out.write({name});
     disk.ReplaceTextFile(kServiceAreasFile, out);
     table.reset(PointOfServiceNames::kPopulated, listEntries);
 }

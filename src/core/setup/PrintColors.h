@@ -9,11 +9,11 @@ class DiskRoutines;
 // The print look: five statements of one field each. Fields 4 and 5 are written back as they were
 // loaded at start-up, never from the two controls, which act for the current run only.
 struct PrintColors {
-    qint32 txtBorders = 0;                  // 1 Long: colour of frames and borders, 24 bits, red low
-    qint32 txtData = 0;                     // 2 Long: colour of printed text
+    qint32 txtBorders = 0;                     // 1 Long: colour of frames and borders, 24 bits, red low
+    qint32 txtData = 0;                        // 2 Long: colour of printed text
     QString lblFont = QStringLiteral("Arial"); // 3 the printing font's name; its size is not kept
-    bool storedColor = true;                // 4 Boolean, as loaded
-    quint8 storedCopies = 3;                // 5 Byte, as loaded
+    bool storedColor = true;                   // 4 Boolean, as loaded
+    quint8 storedCopies = 3;                   // 5 Byte, as loaded
 
     // The controls. Nothing loads them on a first run, so "Print" starts unticked there.
     int ckColor = 0;

@@ -6,10 +6,18 @@
 
 namespace ostrel {
 
-bool ProgramSettings::optMF() const { return WorkWeekCode == kWorkWeekMondayToFriday; }
-bool ProgramSettings::optMS() const { return WorkWeekCode == kWorkWeekMondayToSaturday; }
-bool ProgramSettings::optSF() const { return WorkWeekCode == kWorkWeekSundayToFriday; }
-bool ProgramSettings::optSS() const { return WorkWeekCode == kWorkWeekEveryDay; }
+bool ProgramSettings::optMF() const {
+    return WorkWeekCode == kWorkWeekMondayToFriday;
+}
+bool ProgramSettings::optMS() const {
+    return WorkWeekCode == kWorkWeekMondayToSaturday;
+}
+bool ProgramSettings::optSF() const {
+    return WorkWeekCode == kWorkWeekSundayToFriday;
+}
+bool ProgramSettings::optSS() const {
+    return WorkWeekCode == kWorkWeekEveryDay;
+}
 
 QString SettingsFileName(const QString& programName) {
     return QStringLiteral("/") + programName + QStringLiteral("Settings.txt");
@@ -57,10 +65,10 @@ bool LoadSettings(DiskRoutines& disk, const QString& programName, ProgramSetting
 void SaveSettings(DiskRoutines& disk, const QString& programName, const ProgramSettings& s) {
     TextWriter out;
     out.write({qint64(s.ckSalesItems), qint64(s.ckServices), qint64(s.ckLabor), qint64(s.ckShipping),
-               qint64(s.ckMisc), s.optPlain, s.optReturn, qint64(s.ckApply2ndTax), qint64(s.ckManualInvoiceNo),
-               qint64(s.ckApplyGraduated), s.txtGradulated[0], s.txtGradulated[1], qint64(s.WorkWeekCode),
-               qint64(s.ckPrompts), qint64(s.ckAlarms), s.optBusinessType0, qint64(s.ckEstimate),
-               qint64(s.ckReturnParts), qint64(s.ckTerms)});
+               qint64(s.ckMisc), s.optPlain, s.optReturn, qint64(s.ckApply2ndTax),
+               qint64(s.ckManualInvoiceNo), qint64(s.ckApplyGraduated), s.txtGradulated[0],
+               s.txtGradulated[1], qint64(s.WorkWeekCode), qint64(s.ckPrompts), qint64(s.ckAlarms),
+               s.optBusinessType0, qint64(s.ckEstimate), qint64(s.ckReturnParts), qint64(s.ckTerms)});
     disk.ReplaceTextFile(SettingsFileName(programName), out);
 }
 

@@ -26,7 +26,7 @@ struct ProgramSettings {
     qint16 ckManualInvoiceNo = 0; // 9  Integer, kept and shown only
     qint16 ckApplyGraduated = 0;  // 10 Integer
     std::array<QString, 2> txtGradulated{kZeroCurrency, kZeroCurrency}; // 11, 12 money text as typed
-    qint16 WorkWeekCode = 5;      // 13 Integer
+    qint16 WorkWeekCode = 5;                                            // 13 Integer
     qint16 ckPrompts = 1;         // 14 written as 0/1, read as a Boolean
     qint16 ckAlarms = 1;          // 15 written as 0/1, read as a Boolean
     bool optBusinessType0 = true; // 16 Boolean: Shop/Repair; optBusinessType(1) is its opposite

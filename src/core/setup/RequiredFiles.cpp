@@ -8,7 +8,8 @@ namespace ostrel {
 bool RequiredFilesPresent(DiskRoutines& disk, const QString& programName) {
     return disk.FileExists(QStringLiteral("/MyBusinessData.txt")) &&
            disk.FileExists(QStringLiteral("/ServiceAreas.txt")) &&
-           disk.FileExists(QStringLiteral("/TaxSettings.txt")) && disk.FileExists(SettingsFileName(programName));
+           disk.FileExists(QStringLiteral("/TaxSettings.txt")) &&
+           disk.FileExists(SettingsFileName(programName));
 }
 
 } // namespace ostrel

@@ -9,7 +9,8 @@ QString LoadReturnPartsInstructions(DiskRoutines& disk) {
     QString text;
     if (!disk.FileExists(kReturnPartsFile)) return text;
     SettingsFieldReader in(disk.ReadTextFile(kReturnPartsFile));
-    while (!in.atEnd()) text += in.readString() + QStringLiteral("\r\n");
+    while (!in.atEnd())
+        text += in.readString() + QStringLiteral("\r\n");
     return text;
 }
 

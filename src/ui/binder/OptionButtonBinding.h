@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ControlBinding.h"
+
+class QRadioButton;
+
+namespace ostrel::ui {
+
+// An option button: caption and value. Choosing one clears its siblings, in the widgets and, by
+// settle(), in their models.
+class OptionButtonBinding : public ControlBinding {
+    Q_OBJECT
+public:
+    OptionButtonBinding(Binder& binder, QRadioButton* button, OptionButton& model);
+    void settle() override { pull(); }
+
+protected:
+    void pushState() override;
+    void pull() override;
+    QString caption() const override { return m_model.caption; }
+
+private:
+    OptionButton& m_model;
+};
+
+} // namespace ostrel::ui
