@@ -12,11 +12,13 @@ TEST(AppInfo, ProgramNameIsTheExecutableFileNameWithoutExtension) {
               AppInfo(QStringLiteral("/opt/shop/OstrelAppointmentScheduler")).programName());
     EXPECT_EQ(QStringLiteral("OstrelAppointmentScheduler"),
               AppInfo(QStringLiteral("/opt/shop/OstrelAppointmentScheduler.exe")).programName());
-    EXPECT_EQ(QStringLiteral("Ostrel.App"), AppInfo(QStringLiteral("/opt/shop/Ostrel.App.exe")).programName());
+    EXPECT_EQ(QStringLiteral("Ostrel.App"),
+              AppInfo(QStringLiteral("/opt/shop/Ostrel.App.exe")).programName());
 }
 
 TEST(AppInfo, PathIsTheExecutablesFolder) {
-    EXPECT_EQ(QStringLiteral("/opt/shop"), AppInfo(QStringLiteral("/opt/shop/OstrelAppointmentScheduler")).path());
+    EXPECT_EQ(QStringLiteral("/opt/shop"),
+              AppInfo(QStringLiteral("/opt/shop/OstrelAppointmentScheduler")).path());
 }
 
 TEST(AppInfo, TitleIsTheProgramNameUntilSet) {

@@ -12,7 +12,9 @@ TEST(CommonDialogFilter, LogoFilterBecomesPictureAndAllFileFilters) {
     EXPECT_EQ(QStringLiteral("All (*)"), f[1]);
 }
 
-TEST(CommonDialogFilter, EmptyFilterOffersEverything) { EXPECT_TRUE(NameFiltersFromCommonDialog(QString()).isEmpty()); }
+TEST(CommonDialogFilter, EmptyFilterOffersEverything) {
+    EXPECT_TRUE(NameFiltersFromCommonDialog(QString()).isEmpty());
+}
 
 TEST(CommonDialogFilter, DescriptionWithoutPatternsIsDropped) {
     EXPECT_EQ(QStringList{QStringLiteral("Text (*.txt)")},
@@ -20,5 +22,6 @@ TEST(CommonDialogFilter, DescriptionWithoutPatternsIsDropped) {
 }
 
 TEST(CommonDialogFilter, MissingDescriptionShowsThePatterns) {
-    EXPECT_EQ(QStringList{QStringLiteral("*.rtf (*.rtf)")}, NameFiltersFromCommonDialog(QStringLiteral("|*.rtf")));
+    EXPECT_EQ(QStringList{QStringLiteral("*.rtf (*.rtf)")},
+              NameFiltersFromCommonDialog(QStringLiteral("|*.rtf")));
 }

@@ -11,7 +11,8 @@ struct Screen {
     Grid fgDaySchedule;
     ControlRegistry controls;
     Screen() {
-        for (int i : {0, 5, 12}) optMainMenuSub[i];
+        for (int i : {0, 5, 12})
+            optMainMenuSub[i];
         controls.add(QStringLiteral("cmdGoto"), cmdGoto);
         controls.add(QStringLiteral("optMainMenuSub"), optMainMenuSub);
         controls.add(QStringLiteral("fgDaySchedule"), fgDaySchedule);

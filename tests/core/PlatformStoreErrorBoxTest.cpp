@@ -8,7 +8,8 @@ using namespace ostrel;
 
 TEST(StoreErrorBox, ShowsTheProblemAndTheFileInACriticalOkBox) {
     test::ScriptedDialogs dialogs;
-    const StoreError error(QStringLiteral("/Services.txt"), QStringLiteral("The file ends in the middle of a line."));
+    const StoreError error(QStringLiteral("/Services.txt"),
+                           QStringLiteral("The file ends in the middle of a line."));
     dialogs.expect(kStoreErrorTitle, error.userMessage(), vbOKOnly + vbCritical, vbOK);
     ShowStoreError(dialogs, error, false);
     dialogs.verify();

@@ -4,11 +4,14 @@ namespace ostrel::test {
 
 namespace {
 
-std::string text(const QString& s) { return s.toStdString(); }
+std::string text(const QString& s) {
+    return s.toStdString();
+}
 
 QString quoted(const QString& s) {
     QString t = s;
-    t.replace(QStringLiteral("\r"), QStringLiteral("\\r")).replace(QStringLiteral("\n"), QStringLiteral("\\n"));
+    t.replace(QStringLiteral("\r"), QStringLiteral("\\r"))
+        .replace(QStringLiteral("\n"), QStringLiteral("\\n"));
     return u'"' + t + u'"';
 }
 
@@ -32,7 +35,9 @@ template <typename T> std::optional<T> popFront(std::deque<std::optional<T>>& an
 
 ScriptedDialogs::ScriptedDialogs(QString programTitle) : m_programTitle(std::move(programTitle)) {}
 
-ScriptedDialogs::~ScriptedDialogs() { verify(); }
+ScriptedDialogs::~ScriptedDialogs() {
+    verify();
+}
 
 QString ScriptedDialogs::describe(const Box& box) {
     return QStringLiteral("title %1, prompt %2, buttons %3")
@@ -65,7 +70,8 @@ MsgBoxResult ScriptedDialogs::showMsgBox(const MsgBoxRequest& request) {
     if (!sameText || !sameStyle) {
         ADD_FAILURE() << "Message box not as expected.\n  shown:    " << text(describe(box))
                       << "\n  expected: title " << text(quoted(resolved(e.title))) << ", prompt "
-                      << text(quoted(e.prompt)) << (e.style ? ", buttons " + text(describeStyle(*e.style)) : "");
+                      << text(quoted(e.prompt))
+                      << (e.style ? ", buttons " + text(describeStyle(*e.style)) : "");
     } else if (!MsgBoxButtons(box.style).contains(e.answer)) {
         ADD_FAILURE() << "The scripted answer " << text(MsgBoxResultText(e.answer))
                       << " is not a button of the box shown: " << text(describe(box));
@@ -85,9 +91,9 @@ MsgBoxResult ScriptedDialogs::showMsgBox(const MsgBoxRequest& request) {
     const Box box = m_unchecked.front();
     m_unchecked.pop_front();
     if (box.title == resolved(title) && box.prompt == prompt) return ::testing::AssertionSuccess();
-    return ::testing::AssertionFailure() << "Message box not as expected.\n  shown:    " << text(describe(box))
-                                         << "\n  expected: title " << text(quoted(resolved(title)))
-                                         << ", prompt " << text(quoted(prompt));
+    return ::testing::AssertionFailure()
+           << "Message box not as expected.\n  shown:    " << text(describe(box)) << "\n  expected: title "
+           << text(quoted(resolved(title))) << ", prompt " << text(quoted(prompt));
 }
 
 ::testing::AssertionResult ScriptedDialogs::takeBox(const QString& title, const QString& prompt, int style) {
@@ -96,9 +102,9 @@ MsgBoxResult ScriptedDialogs::showMsgBox(const MsgBoxRequest& request) {
     ::testing::AssertionResult r = takeBox(title, prompt);
     if (!r) return r;
     if (shownStyle == style) return r;
-    return ::testing::AssertionFailure() << "Message box " << text(quoted(prompt)) << " has buttons "
-                                         << text(describeStyle(shownStyle)) << ", expected "
-                                         << text(describeStyle(style));
+    return ::testing::AssertionFailure()
+           << "Message box " << text(quoted(prompt)) << " has buttons " << text(describeStyle(shownStyle))
+           << ", expected " << text(describeStyle(style));
 }
 
 void ScriptedDialogs::verify() {
@@ -106,9 +112,12 @@ void ScriptedDialogs::verify() {
         ADD_FAILURE() << "Expected message box never shown: title " << text(quoted(resolved(e.title)))
                       << ", prompt " << text(quoted(e.prompt));
     }
-    for (const Box& b : m_unchecked) ADD_FAILURE() << "Message box nobody expected: " << text(describe(b));
-    if (!m_fileAnswers.empty()) ADD_FAILURE() << m_fileAnswers.size() << " open-file answer(s) never asked for";
-    if (!m_colourAnswers.empty()) ADD_FAILURE() << m_colourAnswers.size() << " colour answer(s) never asked for";
+    for (const Box& b : m_unchecked)
+        ADD_FAILURE() << "Message box nobody expected: " << text(describe(b));
+    if (!m_fileAnswers.empty())
+        ADD_FAILURE() << m_fileAnswers.size() << " open-file answer(s) never asked for";
+    if (!m_colourAnswers.empty())
+        ADD_FAILURE() << m_colourAnswers.size() << " colour answer(s) never asked for";
     if (!m_fontAnswers.empty()) ADD_FAILURE() << m_fontAnswers.size() << " font answer(s) never asked for";
     if (!m_inputAnswers.empty()) ADD_FAILURE() << m_inputAnswers.size() << " input answer(s) never asked for";
     m_expected.clear();

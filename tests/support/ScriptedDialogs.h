@@ -82,7 +82,8 @@ protected:
     std::optional<QString> openFileName(const OpenFileRequest& request) override;
     std::optional<Colour> chooseColour(Colour initial, const QString& title) override;
     std::optional<FontChoice> chooseFont(const FontChoice& initial, const QString& title) override;
-    std::optional<QString> inputBox(const QString& prompt, const QString& title, const QString& defaultText) override;
+    std::optional<QString> inputBox(const QString& prompt, const QString& title,
+                                    const QString& defaultText) override;
 
 private:
     struct Expectation {

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
@@ -232,7 +233,8 @@ TEST_F(BinderEvents, EnterIgnoredByATextBoxTravelsOnToItsWindow) {
     struct Catcher : QObject {
         int enters = 0;
         bool eventFilter(QObject*, QEvent* ev) override {
-            if (ev->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(ev)->key() == Qt::Key_Return) ++enters;
+            if (ev->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(ev)->key() == Qt::Key_Return)
+                ++enters;
             return false;
         }
     } catcher;
@@ -303,11 +305,15 @@ TEST_F(BinderEvents, FocusLostToAnotherWindowIsNoLostFocus) {
 
 TEST_F(BinderEvents, DoubleClickOnAnOptionButtonGivesClickThenDblClick) {
     ControlArray<OptionButton> opt;
+    opt[5].caption = "Create an &Appointment ";
+    opt[6].caption = "Create / Modify &Services Offered and Products Sold";
     binder.bind(make<QRadioButton>("optMainMenuSub(5)"), opt[5]);
     binder.bind(make<QRadioButton>("optMainMenuSub(6)"), opt[6]);
+    binder.widgetFor(opt[6])->adjustSize();
     QStringList events;
     binder.onClick(opt, [&](int i) { events << QStringLiteral("Click %1").arg(i); });
-    binder.onDoubleClick(opt, [&](int i) { events << QStringLiteral("DblClick %1 %2").arg(i).arg(opt[i].value); });
+    binder.onDoubleClick(opt,
+                         [&](int i) { events << QStringLiteral("DblClick %1 %2").arg(i).arg(opt[i].value); });
     window.show();
     test::settle();
     test::doubleClick(binder.widgetFor(opt[6]));
@@ -430,6 +436,19 @@ TEST_F(BinderEvents, ScreenBindsByNameAndReportsControlsWithoutWidgets) {
     EXPECT_EQ(QStringLiteral("txtCustomer(0)"), binder.widgetFor(frm.txtCustomer[0])->objectName());
 }
 
+TEST_F(BinderEvents, MenuTitleBindsToItsMenu) {
+    MenuItem mnuFiles;
+    mnuFiles.name = "mnuFiles";
+    mnuFiles.caption = " Files";
+    auto* menu = new QMenu(&window);
+    menu->setObjectName("mnuFiles");
+    EXPECT_TRUE(binder.bind(mnuFiles));
+    EXPECT_EQ(QStringLiteral(" Files"), menu->title());
+    mnuFiles.enabled = false;
+    binder.sync();
+    EXPECT_FALSE(menu->menuAction()->isEnabled());
+}
+
 TEST_F(BinderEvents, HandlerForAControlNeverBoundIsReported) {
     CommandButton cmd;
     cmd.name = "cmdLost";
@@ -449,5 +468,6 @@ TEST_F(BinderEvents, ScreenWithEveryWidgetHasNothingUnbound) {
     frm.txtCustomer[6].text = "555-123-4567";
     binder.sync();
     EXPECT_EQ(QStringLiteral("Ready"), qobject_cast<QLabel*>(binder.widgetFor(frm.lblStatus))->text());
-    EXPECT_EQ(QStringLiteral("555-123-4567"), qobject_cast<QLineEdit*>(binder.widgetFor(frm.txtCustomer[6]))->text());
+    EXPECT_EQ(QStringLiteral("555-123-4567"),
+              qobject_cast<QLineEdit*>(binder.widgetFor(frm.txtCustomer[6]))->text());
 }

@@ -24,7 +24,8 @@ inline void typeKey(QWidget* w, int qtKey, const QString& text, Qt::KeyboardModi
 }
 
 inline void typeText(QWidget* w, const QString& text) {
-    for (QChar c : text) typeKey(w, QChar(c).toUpper().unicode(), QString(c));
+    for (QChar c : text)
+        typeKey(w, QChar(c).toUpper().unicode(), QString(c));
 }
 
 inline void focusOut(QWidget* w, Qt::FocusReason reason = Qt::TabFocusReason) {
@@ -58,7 +59,8 @@ inline void doubleClick(QWidget* w, QPoint at = QPoint(-1, -1)) {
 
 // Lets queued work (events arising during a push) run.
 inline void settle() {
-    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+    for (int i = 0; i < 3; ++i)
+        QCoreApplication::processEvents();
 }
 
 } // namespace ostrel::test

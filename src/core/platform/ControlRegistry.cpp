@@ -8,7 +8,8 @@ Control& AsControl(const ControlRegistry::Entry& entry) {
 
 QStringList ControlRegistry::names() const {
     QStringList out;
-    for (const Entry& e : m_entries) out << AsControl(e).name;
+    for (const Entry& e : m_entries)
+        out << AsControl(e).name;
     return out;
 }
 

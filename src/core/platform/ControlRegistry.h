@@ -25,7 +25,8 @@ public:
     }
     // Every member the array holds now, named base(index).
     template <typename T> ControlArray<T>& add(const QString& baseName, ControlArray<T>& controls) {
-        for (auto& [index, control] : controls) add(ElementName(baseName, index), control);
+        for (auto& [index, control] : controls)
+            add(ElementName(baseName, index), control);
         return controls;
     }
 

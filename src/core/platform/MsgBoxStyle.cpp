@@ -71,7 +71,8 @@ QString MsgBoxResultText(MsgBoxResult result) {
 
 QString MsgBoxButtonsText(int style) {
     QStringList names;
-    for (MsgBoxResult b : MsgBoxButtons(style)) names << MsgBoxResultText(b);
+    for (MsgBoxResult b : MsgBoxButtons(style))
+        names << MsgBoxResultText(b);
     return names.join(u' ');
 }
 

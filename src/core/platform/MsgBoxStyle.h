@@ -25,7 +25,15 @@ enum MsgBoxStyle : int {
 };
 
 // The button the user pressed.
-enum MsgBoxResult : int { vbOK = 1, vbCancel = 2, vbAbort = 3, vbRetry = 4, vbIgnore = 5, vbYes = 6, vbNo = 7 };
+enum MsgBoxResult : int {
+    vbOK = 1,
+    vbCancel = 2,
+    vbAbort = 3,
+    vbRetry = 4,
+    vbIgnore = 5,
+    vbYes = 6,
+    vbNo = 7
+};
 
 enum class MsgBoxIcon { None, Critical, Question, Exclamation, Information };
 

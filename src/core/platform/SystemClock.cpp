@@ -2,6 +2,8 @@
 
 namespace ostrel {
 
-QDateTime SystemClock::now() const { return QDateTime::currentDateTime(); }
+QDateTime SystemClock::now() const {
+    return QDateTime::currentDateTime();
+}
 
 } // namespace ostrel

@@ -24,6 +24,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -52,19 +53,29 @@ SyncState& state() {
 
 } // namespace
 
-Binder::FocusEventScope::FocusEventScope() { ++state().focusEvents; }
-Binder::FocusEventScope::~FocusEventScope() { --state().focusEvents; }
+Binder::FocusEventScope::FocusEventScope() {
+    ++state().focusEvents;
+}
+Binder::FocusEventScope::~FocusEventScope() {
+    --state().focusEvents;
+}
 
-Binder::Binder(Dialogs& dialogs, QWidget* root) : m_dialogs(dialogs), m_root(root) { state().binders.append(this); }
+Binder::Binder(Dialogs& dialogs, QWidget* root) : m_dialogs(dialogs), m_root(root) {
+    state().binders.append(this);
+}
 
 Binder::~Binder() {
     state().binders.removeAll(this);
     m_bindings.clear();
 }
 
-bool Binder::syncing() { return state().depth > 0; }
+bool Binder::syncing() {
+    return state().depth > 0;
+}
 
-void Binder::setAlarmSwitch(std::function<bool()> alarmsOn) { state().alarmsOn = std::move(alarmsOn); }
+void Binder::setAlarmSwitch(std::function<bool()> alarmsOn) {
+    state().alarmsOn = std::move(alarmsOn);
+}
 
 void Binder::adopt(QObject* object, Control& model) {
     if (model.name.isEmpty()) model.name = object->objectName();
@@ -81,20 +92,48 @@ template <typename B, typename W, typename M> void Binder::add(W* widget, M& mod
     pushNew(*m_bindings.back());
 }
 
-void Binder::bind(QAbstractButton* w, CommandButton& m) { add<CommandButtonBinding>(w, m); }
-void Binder::bind(QLineEdit* w, TextBox& m) { add<LineEditBinding>(w, m); }
-void Binder::bind(QTextEdit* w, TextBox& m) { add<MultiLineBinding, QWidget>(w, m); }
-void Binder::bind(QPlainTextEdit* w, TextBox& m) { add<MultiLineBinding, QWidget>(w, m); }
-void Binder::bind(QLabel* w, Label& m) { add<LabelBinding>(w, m); }
-void Binder::bind(QCheckBox* w, CheckBox& m) { add<CheckBoxBinding>(w, m); }
-void Binder::bind(QRadioButton* w, OptionButton& m) { add<OptionButtonBinding>(w, m); }
-void Binder::bind(QGroupBox* w, Frame& m) { add<FrameBinding, QWidget>(w, m); }
-void Binder::bind(QFrame* w, Frame& m) { add<FrameBinding, QWidget>(w, m); }
-void Binder::bind(QLabel* w, Image& m) { add<ImageBinding>(w, m); }
-void Binder::bind(QAction* a, MenuItem& m) { add<MenuItemBinding>(a, m); }
-void Binder::bind(QListWidget* w, ListControl& m) { add<ListBoxBinding>(w, m); }
-void Binder::bind(QComboBox* w, ListControl& m) { add<ComboBoxBinding>(w, m); }
-void Binder::bind(QTableWidget* w, Grid& m) { add<GridBinding>(w, m); }
+void Binder::bind(QAbstractButton* w, CommandButton& m) {
+    add<CommandButtonBinding>(w, m);
+}
+void Binder::bind(QLineEdit* w, TextBox& m) {
+    add<LineEditBinding>(w, m);
+}
+void Binder::bind(QTextEdit* w, TextBox& m) {
+    add<MultiLineBinding, QWidget>(w, m);
+}
+void Binder::bind(QPlainTextEdit* w, TextBox& m) {
+    add<MultiLineBinding, QWidget>(w, m);
+}
+void Binder::bind(QLabel* w, Label& m) {
+    add<LabelBinding>(w, m);
+}
+void Binder::bind(QCheckBox* w, CheckBox& m) {
+    add<CheckBoxBinding>(w, m);
+}
+void Binder::bind(QRadioButton* w, OptionButton& m) {
+    add<OptionButtonBinding>(w, m);
+}
+void Binder::bind(QGroupBox* w, Frame& m) {
+    add<FrameBinding, QWidget>(w, m);
+}
+void Binder::bind(QFrame* w, Frame& m) {
+    add<FrameBinding, QWidget>(w, m);
+}
+void Binder::bind(QLabel* w, Image& m) {
+    add<ImageBinding>(w, m);
+}
+void Binder::bind(QAction* a, MenuItem& m) {
+    add<MenuItemBinding>(a, m);
+}
+void Binder::bind(QListWidget* w, ListControl& m) {
+    add<ListBoxBinding>(w, m);
+}
+void Binder::bind(QComboBox* w, ListControl& m) {
+    add<ComboBoxBinding>(w, m);
+}
+void Binder::bind(QTableWidget* w, Grid& m) {
+    add<GridBinding>(w, m);
+}
 
 void Binder::bindWindow(QWidget* window, Frame& form) {
     std::erase_if(m_bindings, [&](const auto& b) { return &b->model() == &form; });
@@ -148,6 +187,8 @@ bool Binder::bindEntry(const ControlRegistry::Entry& entry) {
                     if (auto* w = qobject_cast<QLabel*>(found)) return bind(w, *m), true;
                 } else if constexpr (std::is_same_v<M, MenuItem>) {
                     if (auto* a = qobject_cast<QAction*>(found)) return bind(a, *m), true;
+                    // A menu title ("mnuFiles") is the menu's own action.
+                    if (auto* menu = qobject_cast<QMenu*>(found)) return bind(menu->menuAction(), *m), true;
                 } else if constexpr (std::is_same_v<M, ListControl>) {
                     if (auto* w = qobject_cast<QListWidget*>(found)) return bind(w, *m), true;
                     if (auto* w = qobject_cast<QComboBox*>(found)) return bind(w, *m), true;
@@ -163,7 +204,8 @@ bool Binder::bindEntry(const ControlRegistry::Entry& entry) {
 }
 
 void Binder::bindAll(const ControlRegistry& controls) {
-    for (const auto& entry : controls.entries()) bindEntry(entry);
+    for (const auto& entry : controls.entries())
+        bindEntry(entry);
 }
 
 ControlBinding* Binder::bindingFor(const Control& model) {
@@ -178,7 +220,9 @@ QObject* Binder::objectFor(const Control& model) const {
     return nullptr;
 }
 
-QWidget* Binder::widgetFor(const Control& model) const { return qobject_cast<QWidget*>(objectFor(model)); }
+QWidget* Binder::widgetFor(const Control& model) const {
+    return qobject_cast<QWidget*>(objectFor(model));
+}
 
 ControlHandlers* Binder::handlersFor(Control& model) {
     if (ControlBinding* b = bindingFor(model)) return &b->handlers;
@@ -221,7 +265,8 @@ void Binder::run(const std::function<void()>& handler) {
         } catch (const std::exception& e) {
             // A fault of the program itself: say so and keep the data and the process.
             if (alarms) m_dialogs.Beep();
-            m_dialogs.MsgBox(QString::fromLocal8Bit(e.what()), vbOKOnly + vbCritical, QStringLiteral("Program Error"));
+            m_dialogs.MsgBox(QString::fromLocal8Bit(e.what()), vbOKOnly + vbCritical,
+                             QStringLiteral("Program Error"));
         }
     }
     syncAll();
@@ -288,13 +333,17 @@ void Binder::syncAll() {
     SyncState& s = state();
     ++s.depth;
     const QList<Binder*> binders = s.binders;
-    for (Binder* b : binders) b->pushAll(false);
-    for (Binder* b : binders) b->pushAll(true);
+    for (Binder* b : binders)
+        b->pushAll(false);
+    for (Binder* b : binders)
+        b->pushAll(true);
     if (s.depth == 1) finishPush(s);
     --s.depth;
 }
 
-void Binder::requestFocus(QWidget* widget) { state().focus = widget; }
+void Binder::requestFocus(QWidget* widget) {
+    state().focus = widget;
+}
 
 void Binder::requestShow(QWidget* window) {
     if (!state().shows.contains(window)) state().shows.append(window);
@@ -303,7 +352,10 @@ void Binder::requestShow(QWidget* window) {
 QAbstractButton* Binder::defaultButton() const {
     for (const auto& b : m_bindings) {
         auto* c = qobject_cast<CommandButtonBinding*>(b.get());
-        if (c && c->button().isDefault && c->button().enabled && c->button().visible)
+        if (!c || !c->button().enabled || !c->button().visible) continue;
+        // The model's mark, or the view's own setDefault on the push button.
+        auto* p = qobject_cast<QPushButton*>(c->target());
+        if (c->button().isDefault || (p && p->isDefault()))
             return qobject_cast<QAbstractButton*>(c->target());
     }
     return nullptr;

@@ -80,7 +80,8 @@ public:
     // unboundControls(), when there is none or it is of the wrong kind.
     template <typename T> bool bind(T& model) { return bindEntry(ControlRegistry::Entry{&model}); }
     template <typename T> void bind(ControlArray<T>& models) {
-        for (auto& [index, model] : models) bind(model);
+        for (auto& [index, model] : models)
+            bind(model);
     }
     void bindAll(const ControlRegistry& controls);
     // Names of the controls given to a bind by name that found no widget of their kind, and of
@@ -101,27 +102,35 @@ public:
     void onKeyUp(Control& model, std::function<void(int& keyCode, int shift)> handler);
 
     template <typename T> void onClick(ControlArray<T>& models, std::function<void(int index)> handler) {
-        for (auto& [i, m] : models) onClick(m, [handler, i = i] { handler(i); });
+        for (auto& [i, m] : models)
+            onClick(m, [handler, i = i] { handler(i); });
     }
-    template <typename T> void onDoubleClick(ControlArray<T>& models, std::function<void(int index)> handler) {
-        for (auto& [i, m] : models) onDoubleClick(m, [handler, i = i] { handler(i); });
+    template <typename T>
+    void onDoubleClick(ControlArray<T>& models, std::function<void(int index)> handler) {
+        for (auto& [i, m] : models)
+            onDoubleClick(m, [handler, i = i] { handler(i); });
     }
     template <typename T> void onChange(ControlArray<T>& models, std::function<void(int index)> handler) {
-        for (auto& [i, m] : models) onChange(m, [handler, i = i] { handler(i); });
+        for (auto& [i, m] : models)
+            onChange(m, [handler, i = i] { handler(i); });
     }
     template <typename T> void onGotFocus(ControlArray<T>& models, std::function<void(int index)> handler) {
-        for (auto& [i, m] : models) onGotFocus(m, [handler, i = i] { handler(i); });
+        for (auto& [i, m] : models)
+            onGotFocus(m, [handler, i = i] { handler(i); });
     }
     template <typename T> void onLostFocus(ControlArray<T>& models, std::function<void(int index)> handler) {
-        for (auto& [i, m] : models) onLostFocus(m, [handler, i = i] { handler(i); });
+        for (auto& [i, m] : models)
+            onLostFocus(m, [handler, i = i] { handler(i); });
     }
     template <typename T>
     void onKeyPress(ControlArray<T>& models, std::function<void(int index, int& keyAscii)> handler) {
-        for (auto& [i, m] : models) onKeyPress(m, [handler, i = i](int& key) { handler(i, key); });
+        for (auto& [i, m] : models)
+            onKeyPress(m, [handler, i = i](int& key) { handler(i, key); });
     }
     template <typename T>
     void onKeyDown(ControlArray<T>& models, std::function<void(int index, int& keyCode, int shift)> handler) {
-        for (auto& [i, m] : models) onKeyDown(m, [handler, i = i](int& key, int shift) { handler(i, key, shift); });
+        for (auto& [i, m] : models)
+            onKeyDown(m, [handler, i = i](int& key, int shift) { handler(i, key, shift); });
     }
 
     // Runs one event's handler: a StoreError becomes a box, then every binder pushes its models.

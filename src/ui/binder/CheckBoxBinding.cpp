@@ -8,7 +8,9 @@ namespace {
 Qt::CheckState toState(int value) {
     return value == 1 ? Qt::Checked : value == 2 ? Qt::PartiallyChecked : Qt::Unchecked;
 }
-int toValue(Qt::CheckState state) { return state == Qt::Checked ? 1 : state == Qt::PartiallyChecked ? 2 : 0; }
+int toValue(Qt::CheckState state) {
+    return state == Qt::Checked ? 1 : state == Qt::PartiallyChecked ? 2 : 0;
+}
 } // namespace
 
 CheckBoxBinding::CheckBoxBinding(Binder& binder, QCheckBox* box, CheckBox& model)
@@ -31,6 +33,8 @@ void CheckBoxBinding::pushState() {
     if (b->checkState() != state) b->setCheckState(state);
 }
 
-void CheckBoxBinding::pull() { m_model.value = toValue(qobject_cast<QCheckBox*>(target())->checkState()); }
+void CheckBoxBinding::pull() {
+    m_model.value = toValue(qobject_cast<QCheckBox*>(target())->checkState());
+}
 
 } // namespace ostrel::ui

@@ -22,7 +22,9 @@ ComboBoxBinding::ComboBoxBinding(Binder& binder, QComboBox* combo, ListControl& 
     }
 }
 
-QComboBox* ComboBoxBinding::combo() const { return qobject_cast<QComboBox*>(target()); }
+QComboBox* ComboBoxBinding::combo() const {
+    return qobject_cast<QComboBox*>(target());
+}
 
 void ComboBoxBinding::pull() {
     QComboBox* c = combo();
@@ -43,7 +45,8 @@ void ComboBoxBinding::pull() {
 void ComboBoxBinding::pushState() {
     QComboBox* c = combo();
     bool same = c->count() == m_model.ListCount();
-    for (int i = 0; same && i < c->count(); ++i) same = c->itemText(i) == m_model.items[i];
+    for (int i = 0; same && i < c->count(); ++i)
+        same = c->itemText(i) == m_model.items[i];
     if (!same) {
         c->clear();
         c->addItems(m_model.items);

@@ -16,7 +16,11 @@ CommandButtonBinding::CommandButtonBinding(Binder& binder, QAbstractButton* butt
 void CommandButtonBinding::pushState() {
     auto* b = qobject_cast<QAbstractButton*>(target());
     if (b->text() != m_model.caption) b->setText(m_model.caption);
-    if (auto* p = qobject_cast<QPushButton*>(b); p && p->isDefault() != m_model.isDefault) p->setDefault(m_model.isDefault);
+    // The default mark moves when the model's changes, so a view's own setDefault stands otherwise.
+    if (auto* p = qobject_cast<QPushButton*>(b); p && m_model.isDefault != m_syncedDefault) {
+        p->setDefault(m_model.isDefault);
+        m_syncedDefault = m_model.isDefault;
+    }
 }
 
 } // namespace ostrel::ui

@@ -19,6 +19,7 @@ protected:
 
 private:
     CommandButton& m_model;
+    bool m_syncedDefault = false;
 };
 
 } // namespace ostrel::ui

@@ -37,7 +37,9 @@ int qtKeyForCharacter(int code) {
 
 // Ctrl shortcuts (copy, paste, undo) act as on any desktop; the legacy key handlers see the
 // printable characters and Backspace, Enter and Escape.
-bool isHandlerKey(int code) { return code >= 32 || code == 8 || code == 13 || code == 27; }
+bool isHandlerKey(int code) {
+    return code >= 32 || code == 8 || code == 13 || code == 27;
+}
 
 } // namespace
 
@@ -49,9 +51,13 @@ ControlBinding::ControlBinding(Binder& binder, Control& model, QObject* target)
 
 ControlBinding::~ControlBinding() = default;
 
-QWidget* ControlBinding::widget() const { return qobject_cast<QWidget*>(m_target.data()); }
+QWidget* ControlBinding::widget() const {
+    return qobject_cast<QWidget*>(m_target.data());
+}
 
-bool ControlBinding::pushing() { return Binder::syncing(); }
+bool ControlBinding::pushing() {
+    return Binder::syncing();
+}
 
 void ControlBinding::fire(const std::function<void()>& handler) {
     if (handler) m_binder.dispatch(handler);
@@ -101,7 +107,8 @@ QString ControlBinding::accessibleText() {
 bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::FocusIn:
-        if (watched == m_target && movesBetweenControls(static_cast<QFocusEvent*>(event))) fire(handlers.gotFocus);
+        if (watched == m_target && movesBetweenControls(static_cast<QFocusEvent*>(event)))
+            fire(handlers.gotFocus);
         break;
     case QEvent::FocusOut:
         if (watched == m_target && movesBetweenControls(static_cast<QFocusEvent*>(event))) {
@@ -129,7 +136,8 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
         if (m_mouseClicks && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
             if (takeClickAfterDoubleClick()) break;
             auto* w = qobject_cast<QWidget*>(watched);
-            if (w && w->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) fire(handlers.click);
+            if (w && w->rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint()))
+                fire(handlers.click);
         }
         break;
     case QEvent::MouseButtonDblClick:
@@ -167,18 +175,15 @@ bool ControlBinding::keyPress(QKeyEvent* key) {
     QWidget* w = widget();
     if (!w) return false;
     // Type the key (or the one the handler put in its place) now, knowing it is typed, not pasted.
-    QKeyEvent typed(QEvent::KeyPress, ascii == original ? key->key() : qtKeyForCharacter(ascii), key->modifiers(),
-                    ascii == original ? text : QString(QChar(ascii)), key->isAutoRepeat(), key->count());
+    QKeyEvent typed(QEvent::KeyPress, ascii == original ? key->key() : qtKeyForCharacter(ascii),
+                    key->modifiers(), ascii == original ? text : QString(QChar(ascii)), key->isAutoRepeat(),
+                    key->count());
     typed.setAccepted(true);
+    // A key the box does not want (Enter in a one-line box) travels on to its parents from here,
+    // as the original would have.
     m_typing = true;
     QCoreApplication::sendEvent(w, &typed);
     m_typing = false;
-    if (!typed.isAccepted() && !w->isWindow() && w->parentWidget()) {
-        // The box did not want it (Enter in a one-line box): let it travel on as it would have.
-        QKeyEvent onward(typed.type(), typed.key(), typed.modifiers(), typed.text(), typed.isAutoRepeat(),
-                         typed.count());
-        QCoreApplication::sendEvent(w->parentWidget(), &onward);
-    }
     return true;
 }
 

@@ -10,7 +10,8 @@ FrameBinding::FrameBinding(Binder& binder, QWidget* frame, Frame& model)
 }
 
 void FrameBinding::pushState() {
-    if (auto* g = qobject_cast<QGroupBox*>(target()); g && g->title() != m_model.caption) g->setTitle(m_model.caption);
+    if (auto* g = qobject_cast<QGroupBox*>(target()); g && g->title() != m_model.caption)
+        g->setTitle(m_model.caption);
 }
 
 } // namespace ostrel::ui

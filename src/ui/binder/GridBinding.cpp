@@ -19,7 +19,9 @@ void setColour(QTableWidgetItem* item, int role, const QColor& colour) {
     }
 }
 
-int twipsToPixels(int twips, const QWidget* w) { return twips * w->logicalDpiX() / 1440; }
+int twipsToPixels(int twips, const QWidget* w) {
+    return twips * w->logicalDpiX() / 1440;
+}
 
 } // namespace
 
@@ -50,7 +52,9 @@ GridBinding::GridBinding(Binder& binder, QTableWidget* table, Grid& model)
     });
 }
 
-QTableWidget* GridBinding::table() const { return qobject_cast<QTableWidget*>(target()); }
+QTableWidget* GridBinding::table() const {
+    return qobject_cast<QTableWidget*>(target());
+}
 
 void GridBinding::pull() {
     QTableWidget* t = table();

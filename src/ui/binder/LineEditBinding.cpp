@@ -21,7 +21,9 @@ LineEditBinding::LineEditBinding(Binder& binder, QLineEdit* edit, TextBox& model
     });
 }
 
-QLineEdit* LineEditBinding::edit() const { return qobject_cast<QLineEdit*>(target()); }
+QLineEdit* LineEditBinding::edit() const {
+    return qobject_cast<QLineEdit*>(target());
+}
 
 void LineEditBinding::edited(const QString& text) {
     const QString before = m_model.text;
@@ -36,7 +38,8 @@ void LineEditBinding::edited(const QString& text) {
 
 void LineEditBinding::judgeInsertedText(const QString& before, const QString& after) {
     qsizetype prefix = 0;
-    while (prefix < before.size() && prefix < after.size() && before[prefix] == after[prefix]) ++prefix;
+    while (prefix < before.size() && prefix < after.size() && before[prefix] == after[prefix])
+        ++prefix;
     qsizetype suffix = 0;
     while (suffix < before.size() - prefix && suffix < after.size() - prefix &&
            before[before.size() - 1 - suffix] == after[after.size() - 1 - suffix])

@@ -21,7 +21,9 @@ ListBoxBinding::ListBoxBinding(Binder& binder, QListWidget* list, ListControl& m
     });
 }
 
-QListWidget* ListBoxBinding::list() const { return qobject_cast<QListWidget*>(target()); }
+QListWidget* ListBoxBinding::list() const {
+    return qobject_cast<QListWidget*>(target());
+}
 
 void ListBoxBinding::pull() {
     QListWidget* l = list();
@@ -33,7 +35,8 @@ void ListBoxBinding::pull() {
 void ListBoxBinding::pushState() {
     QListWidget* l = list();
     bool same = l->count() == m_model.ListCount();
-    for (int i = 0; same && i < l->count(); ++i) same = l->item(i)->text() == m_model.items[i];
+    for (int i = 0; same && i < l->count(); ++i)
+        same = l->item(i)->text() == m_model.items[i];
     if (!same) {
         l->clear();
         l->addItems(m_model.items);

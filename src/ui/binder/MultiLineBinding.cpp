@@ -76,7 +76,8 @@ void MultiLineBinding::edited() {
     QString text = widgetText();
     if (m_model.maxLength > 0 && toModel(text).size() > m_model.maxLength) {
         // Cut back to the limit, counted as the model counts.
-        while (!text.isEmpty() && toModel(text).size() > m_model.maxLength) text.chop(1);
+        while (!text.isEmpty() && toModel(text).size() > m_model.maxLength)
+            text.chop(1);
         const QSignalBlocker block(target());
         setWidgetText(text);
         QTextCursor c = cursor();

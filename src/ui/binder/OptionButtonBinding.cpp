@@ -7,10 +7,9 @@ namespace ostrel::ui {
 
 OptionButtonBinding::OptionButtonBinding(Binder& binder, QRadioButton* button, OptionButton& model)
     : ControlBinding(binder, model, button), m_model(model) {
-    // Both the chosen button and the one it clears report; each keeps its own model current.
-    connect(button, &QAbstractButton::toggled, this, [this] {
-        if (!pushing()) pull();
-    });
+    // Both the chosen button and the one it clears report; each keeps its own model current. Also
+    // during a push: a sibling cleared by the one just pushed must not be pushed back on.
+    connect(button, &QAbstractButton::toggled, this, [this] { pull(); });
     connect(button, &QAbstractButton::clicked, this, [this] {
         if (pushing() || takeClickAfterDoubleClick()) return;
         fire(handlers.click);
@@ -36,6 +35,8 @@ void OptionButtonBinding::pushState() {
     if (groupExclusive) group->setExclusive(true);
 }
 
-void OptionButtonBinding::pull() { m_model.value = qobject_cast<QRadioButton*>(target())->isChecked(); }
+void OptionButtonBinding::pull() {
+    m_model.value = qobject_cast<QRadioButton*>(target())->isChecked();
+}
 
 } // namespace ostrel::ui

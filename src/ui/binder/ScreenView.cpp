@@ -7,7 +7,8 @@
 
 namespace ostrel::ui {
 
-ScreenView::ScreenView(Dialogs& dialogs, QWidget* parent) : QWidget(parent, Qt::Window), m_binder(dialogs, this) {}
+ScreenView::ScreenView(Dialogs& dialogs, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_binder(dialogs, this) {}
 
 void ScreenView::closeEvent(QCloseEvent* event) {
     event->accept();
@@ -25,7 +26,8 @@ void ScreenView::showEvent(QShowEvent* event) {
 void ScreenView::keyPressEvent(QKeyEvent* event) {
     QAbstractButton* target = nullptr;
     if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) target = m_binder.defaultButton();
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            target = m_binder.defaultButton();
         if (event->key() == Qt::Key_Escape) target = m_binder.cancelButton();
     }
     if (target) {

@@ -37,7 +37,9 @@ QMessageBox::Icon toIcon(MsgBoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
-QWidget* dialogParent() { return QApplication::activeWindow(); }
+QWidget* dialogParent() {
+    return QApplication::activeWindow();
+}
 
 } // namespace
 
@@ -86,7 +88,8 @@ void QtDialogs::prepare(QMessageBox& box, const MsgBoxRequest& request) {
     box.setText(plainLines(request.prompt));
     box.setIcon(toIcon(MsgBoxIconOf(request.style)));
     QMessageBox::StandardButtons buttons;
-    for (MsgBoxResult b : MsgBoxButtons(request.style)) buttons |= toStandardButton(b);
+    for (MsgBoxResult b : MsgBoxButtons(request.style))
+        buttons |= toStandardButton(b);
     box.setStandardButtons(buttons);
     box.setDefaultButton(toStandardButton(MsgBoxDefaultAnswer(request.style)));
     const QVector<MsgBoxResult> offered = MsgBoxButtons(request.style);
@@ -110,12 +113,14 @@ MsgBoxResult QtDialogs::showMsgBox(const MsgBoxRequest& request) {
     return MsgBoxButtons(request.style).contains(result) ? result : MsgBoxDefaultAnswer(request.style);
 }
 
-void QtDialogs::beep() { QApplication::beep(); }
+void QtDialogs::beep() {
+    QApplication::beep();
+}
 
 std::optional<QString> QtDialogs::openFileName(const OpenFileRequest& request) {
-    const QString chosen = QFileDialog::getOpenFileName(dialogParent(), request.title, request.initialDir,
-                                                        NameFiltersFromCommonDialog(request.filter).join(
-                                                            QStringLiteral(";;")));
+    const QString chosen =
+        QFileDialog::getOpenFileName(dialogParent(), request.title, request.initialDir,
+                                     NameFiltersFromCommonDialog(request.filter).join(QStringLiteral(";;")));
     if (chosen.isEmpty()) return std::nullopt;
     return chosen;
 }
@@ -136,10 +141,12 @@ std::optional<FontChoice> QtDialogs::chooseFont(const FontChoice& initial, const
     bool ok = false;
     const QFont chosen = QFontDialog::getFont(&ok, start, dialogParent(), title);
     if (!ok) return std::nullopt;
-    return FontChoice{chosen.family(), chosen.pointSizeF(), chosen.bold(), chosen.italic(), chosen.underline()};
+    return FontChoice{chosen.family(), chosen.pointSizeF(), chosen.bold(), chosen.italic(),
+                      chosen.underline()};
 }
 
-std::optional<QString> QtDialogs::inputBox(const QString& prompt, const QString& title, const QString& defaultText) {
+std::optional<QString> QtDialogs::inputBox(const QString& prompt, const QString& title,
+                                           const QString& defaultText) {
     bool ok = false;
     const QString text =
         QInputDialog::getText(dialogParent(), title, plainLines(prompt), QLineEdit::Normal, defaultText, &ok);

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/AppInfo.h"
+#include "platform/LockFileInstance.h"
+#include "platform/SystemClock.h"
+#include "platform/DesktopBrowser.h"
+#include "platform/QtDialogs.h"
+#include "store/DataRoot.h"
+#include "shell/Session.h"
+
+#include <memory>
+
+namespace ostrel::ui {
+
+class SplashView;
+class StartupView;
+
+// The program on the desktop: the real platform, the session and one view per screen.
+class Application {
+public:
+    // The data root is the folder of the executable named in `app`.
+    explicit Application(AppInfo app);
+    ~Application();
+
+    // The start-up sequence; false when another copy runs and this one must end.
+    bool start();
+
+    Session& session() { return *m_session; }
+    SplashView& splashView() { return *m_splash; }
+    StartupView& startupView() { return *m_startup; }
+
+private:
+    AppInfo m_app;
+    DataRoot m_lockRoot;
+    QtDialogs m_dialogs;
+    SystemClock m_clock;
+    LockFileInstance m_instance;
+    DesktopBrowser m_browser;
+    Platform m_platform;
+    std::unique_ptr<Session> m_session;
+    std::unique_ptr<SplashView> m_splash;
+    std::unique_ptr<StartupView> m_startup;
+};
+
+// The resources of the view library (pictures); a static library must ask for them.
+void InitResources();
+
+} // namespace ostrel::ui
