@@ -1,11 +1,13 @@
 #pragma once
 
 #include "ScreenId.h"
+#include "controls/Screen.h"
 #include "platform/Platform.h"
 #include "setup/PointOfServiceNames.h"
 #include "setup/SetupSettings.h"
 #include "store/DataRoot.h"
 #include "store/DiskRoutines.h"
+#include "telephony/ModemStatus.h"
 
 #include <QDate>
 #include <QString>
@@ -18,7 +20,6 @@
 
 namespace ostrel {
 
-class Screen;
 class StoreError;
 struct ListControl;
 class frmSplash;
@@ -68,6 +69,15 @@ public:
     bool Guarded(const std::function<void()>& step);
 
     // Screens.
+    // Takes a screen into the session for the rest of the run and registers it.
+    template <typename T> T& AddScreen(ScreenId id, std::unique_ptr<T> screen) {
+        T& s = *screen;
+        m_owned.push_back(std::move(screen));
+        RegisterScreen(id, s);
+        return s;
+    }
+    // The screen of that id as its own class; null when absent or of another class.
+    template <typename T> T* ScreenAs(ScreenId id) const { return dynamic_cast<T*>(FindScreen(id)); }
     void RegisterScreen(ScreenId id, Screen& screen);
     Screen* FindScreen(ScreenId id) const;
     bool HasScreen(ScreenId id) const { return FindScreen(id) != nullptr; }
@@ -87,6 +97,9 @@ public:
     SetupSettings settings;
     PointOfServiceNames pointOfServiceNames;
     qint16 SelectedRoutine = 0;
+    ModemStatus modem;
+    // Opens the speed dialer for a person and number; unset while no dialer is part of the program.
+    std::function<void(const QString& name, const QString& number)> dial;
 
     // Set by the view layer: what ends the process once every screen is hidden.
     std::function<void()> endProcess;
@@ -98,6 +111,7 @@ private:
     std::map<ScreenId, Screen*> m_screens;
     std::vector<ScreenId> m_loadOrder;
     std::array<ListControl*, kPointOfServiceLists> m_pointOfServiceLists{};
+    std::vector<std::unique_ptr<Screen>> m_owned;
     std::unique_ptr<frmSplash> m_splash;
     std::unique_ptr<frmStartup> m_startup;
     bool m_ended = false;

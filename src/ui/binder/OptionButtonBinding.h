@@ -12,7 +12,9 @@ class OptionButtonBinding : public ControlBinding {
     Q_OBJECT
 public:
     OptionButtonBinding(Binder& binder, QRadioButton* button, OptionButton& model);
-    void settle() override { pull(); }
+    void settle() override {
+        if (target()) pull();
+    }
 
 protected:
     void pushState() override;
