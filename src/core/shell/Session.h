@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ScreenId.h"
+#include "accounts/CustomerBuffers.h"
+#include "catalogue/CatalogueLists.h"
 #include "controls/Screen.h"
 #include "platform/Platform.h"
 #include "setup/PointOfServiceNames.h"
@@ -98,6 +100,10 @@ public:
     PointOfServiceNames pointOfServiceNames;
     qint16 SelectedRoutine = 0;
     ModemStatus modem;
+    // The one customer buffer and its two companions.
+    CustomerBuffers customer;
+    // The catalogue's lists on the other screens, filled only by the catalogue loads.
+    CatalogueLists catalogueLists;
     // Opens the speed dialer for a person and number; unset while no dialer is part of the program.
     std::function<void(const QString& name, const QString& number)> dial;
 
