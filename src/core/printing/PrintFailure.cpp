@@ -1,0 +1,17 @@
+#include "PrintFailure.h"
+
+#include "platform/Dialogs.h"
+#include "platform/PageSurface.h"
+
+namespace ostrel {
+
+PrintResult ReportPrintFailure(Dialogs& dialogs, int errorNumber, bool tellsCancelApart) {
+    const bool cancelled = errorNumber == PrintError::kCancelled;
+    if (cancelled && tellsCancelApart)
+        dialogs.MsgBox(kPrintCancelledMessage, vbOKOnly);
+    else
+        dialogs.MsgBox(kPrintErrorMessage, vbOKOnly, kPrintErrorTitle);
+    return cancelled ? PrintResult::Cancelled : PrintResult::Failed;
+}
+
+} // namespace ostrel
