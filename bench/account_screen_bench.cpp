@@ -1,12 +1,10 @@
 // Times the account screen's activation on a full customer file of 32,767 records: the name list
 // sorted and the city list, the companion check and record 1 loaded. The widgets' share is measured
 // by the view test; this is the core alone.
+#include "BenchPlatform.h"
 #include "BenchUtil.h"
 #include "accounts/CustomerStore.h"
 #include "accounts/frmNewCustomer.h"
-#include "platform/AppInfo.h"
-#include "platform/Dialogs.h"
-#include "platform/SystemClock.h"
 #include "shell/Session.h"
 
 #include <QFile>
@@ -21,37 +19,6 @@ namespace {
 
 constexpr int kCustomers = CustomerStore::kMostCustomers;
 constexpr int kRuns = 9;
-
-// The outside world of a run nobody watches: every box answered with its default button.
-class QuietDialogs : public Dialogs {
-public:
-    QString programTitle() const override { return QStringLiteral("bench"); }
-    int boxes = 0;
-
-protected:
-    MsgBoxResult showMsgBox(const MsgBoxRequest& request) override {
-        ++boxes;
-        return MsgBoxDefaultAnswer(request.style);
-    }
-    void beep() override {}
-    std::optional<QString> openFileName(const OpenFileRequest&) override { return std::nullopt; }
-    std::optional<Colour> chooseColour(Colour, const QString&) override { return std::nullopt; }
-    std::optional<FontChoice> chooseFont(const FontChoice&, const QString&) override { return std::nullopt; }
-    std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
-        return std::nullopt;
-    }
-};
-
-class OnlyCopy : public Instance {
-public:
-    bool TryAcquire() override { return true; }
-    void Release() override {}
-};
-
-class NoBrowser : public Browser {
-public:
-    bool Open(const QString&) override { return false; }
-};
 
 const char* const kLastNames[] = {"Goldsmith", "Jones",  "Smithson", "Nunez", "Williams",
                                   "Garcia",    "Brown",  "Miller",   "Davis", "Rodriguez",
@@ -93,13 +60,8 @@ int main() {
         std::fprintf(stderr, "no temporary folder\n");
         return 1;
     }
-    QuietDialogs dialogs;
-    SystemClock clock;
-    OnlyCopy instance;
-    NoBrowser browser;
-    AppInfo app(dir.path() + QStringLiteral("/OstrelAppointmentScheduler"));
-    Platform platform{dialogs, clock, instance, browser, app};
-    Session session(dir.path(), platform);
+    bench::BenchPlatform world(dir.path());
+    Session session(dir.path(), world.platform);
     auto& frm = session.AddScreen(ScreenId::frmNewCustomer,
                                   std::make_unique<frmNewCustomer>(session, session.customer));
 
@@ -120,7 +82,7 @@ int main() {
         kRuns, [&] { frm.Show(); }, [&] { frm.Hide(); });
     const double lists = medianMs(kRuns, [&] { frm.FillLists(); });
     std::printf("customers: %d, names listed: %d, cities listed: %d, boxes shown: %d\n", frm.CustomerCount,
-                frm.cboAccounts.ListCount(), frm.cboCity.ListCount(), dialogs.boxes);
+                frm.cboAccounts.ListCount(), frm.cboCity.ListCount(), world.dialogs.boxes);
     bench::report("account screen activation (core, both lists filled)", activation);
     bench::report("of which the two lists alone", lists);
     return 0;

@@ -28,7 +28,6 @@ struct SetupLogo : ::testing::Test {
     }
     void start() {
         ASSERT_EQ(session.Main(), Session::StartResult::Running);
-        setup.Load();
     }
     void writeStoredLogo(const QByteArray& size) {
         t.writeBytes("/CompanyLogo.txt", "\"" + firstPicture.toUtf8() + "\"\r\n");

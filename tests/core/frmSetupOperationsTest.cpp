@@ -19,7 +19,6 @@ struct SetupOperations : ::testing::Test {
 
     void start() {
         ASSERT_EQ(session.Main(), Session::StartResult::Running);
-        setup.Load();
     }
 };
 
@@ -152,10 +151,7 @@ TEST_F(SetupOperations, PrintAndCopiesActForThisRunOnlyAndLeaveTheColoursFileAsL
 
 TEST_F(SetupOperations, WithoutAModemThePhonePageIsDisabledAndCallerIdStillShowsTicked) {
     t.writeBytes("/Phone.txt", "#TRUE#\r\n3\r\n");
-    session.modem.detected = false;
     start();
-    LoadPhoneFiles(session.disk, session.settings.phone);
-    setup.Load();
     EXPECT_FALSE(setup.SSTab1.TabEnabled[frmSetup::kPhoneAndModem]);
     EXPECT_TRUE(setup.SSTab1.TabEnabled[frmSetup::kTaxation]);
     EXPECT_EQ(setup.ckCallerID.value, 1);
@@ -164,22 +160,15 @@ TEST_F(SetupOperations, WithoutAModemThePhonePageIsDisabledAndCallerIdStillShows
 }
 
 TEST_F(SetupOperations, WithoutAModemOrPhoneFileTheDaisyChainBoxIsClear) {
-    session.modem.detected = false;
     start();
-    LoadPhoneFiles(session.disk, session.settings.phone);
-    setup.Load();
     EXPECT_EQ(setup.ckPhone.value, 0);
 }
 
 TEST_F(SetupOperations, AFoundModemShowsItsPortEvenWhenThePhoneFileNamesAnother) {
     t.writeBytes("/Phone.txt", "#FALSE#\r\n3\r\n");
     t.writeBytes("/CallID.txt", "#FALSE#\r\n");
-    session.modem.detected = true;
-    session.modem.foundPort = 4;
-    session.settings.phone.ModemPort = 4;
+    fake.serialMachine.attach(4, ostrel::test::ScriptedDevice::modem());
     start();
-    LoadPhoneFiles(session.disk, session.settings.phone);
-    setup.Load();
     EXPECT_TRUE(setup.SSTab1.TabEnabled[frmSetup::kPhoneAndModem]);
     EXPECT_EQ(setup.txtModemPort.text, "4");
     EXPECT_EQ(setup.ckCallerID.value, 1);
@@ -189,12 +178,8 @@ TEST_F(SetupOperations, AFoundModemShowsItsPortEvenWhenThePhoneFileNamesAnother)
 }
 
 TEST_F(SetupOperations, LeavingWritesThePhoneFilesWithTheDaisyChainBoxAndTheReadCallerIdFlag) {
-    session.modem.detected = true;
-    session.modem.foundPort = 3;
-    session.settings.phone.ModemPort = 3;
+    fake.serialMachine.attach(3, ostrel::test::ScriptedDevice::modem());
     start();
-    LoadPhoneFiles(session.disk, session.settings.phone);
-    setup.Load();
     setup.ckPhone.value = 1;
     setup.ckCallerID.value = 1;
     setup.txtBusiness[0].text = "Shop";

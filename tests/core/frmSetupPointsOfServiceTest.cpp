@@ -22,7 +22,6 @@ struct SetupPointsOfService : ::testing::Test {
         t.writeBytes("/ServiceAreas.txt", serviceAreas);
         session.SetPointOfServiceList(PointOfServiceList::frmBlock, &blockList);
         ASSERT_EQ(session.Main(), Session::StartResult::Running);
-        setup.Load();
         setup.tabInfo_Click(frmSetup::kPointsOfService);
     }
     void add(const QString& name) {

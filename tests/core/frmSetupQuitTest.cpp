@@ -27,7 +27,6 @@ struct SetupQuit : ::testing::Test {
 
     void start() {
         ASSERT_EQ(session->Main(), Session::StartResult::Running);
-        setup->Load();
     }
     // A later run of the program on the same folder.
     void restart() {

@@ -20,7 +20,6 @@ struct SetupScreen : ::testing::Test {
 
     void start() {
         ASSERT_EQ(session.Main(), Session::StartResult::Running);
-        setup.Load();
     }
     void writeBusiness(const QByteArray& name, const QByteArray& postal) {
         t.writeBytes("/MyBusinessData.txt", "\"" + name + "\",\"1 Main St\",\"\",\"Springfield\",\"IL\",\"" +

@@ -3,13 +3,16 @@
 #include "FakeBrowser.h"
 #include "FakeClock.h"
 #include "FakeInstance.h"
+#include "RecordingPageSurface.h"
 #include "ScriptedDialogs.h"
+#include "ScriptedSerialPort.h"
 #include "platform/Platform.h"
 
 namespace ostrel::test {
 
 // The whole outside world for a test: scripted boxes, a set clock, a settable single-copy guard, a
-// recording browser, and a program that lives in `dataRoot` under its shipped name.
+// recording browser, a machine whose serial ports hold no modem until a test attaches one, a print
+// dialog that records each job, and a program that lives in `dataRoot` under its shipped name.
 class FakePlatform {
 public:
     explicit FakePlatform(const QString& dataRoot = QStringLiteral("/nonexistent"))
@@ -24,7 +27,10 @@ public:
     FakeInstance instance;
     FakeBrowser browser;
     AppInfo app; // after a setTitle, call dialogs.setProgramTitle too
-    Platform platform{dialogs, clock, instance, browser, app};
+    ScriptedSerialMachine serialMachine;
+    ScriptedSerialPort serial{serialMachine};
+    RecordingPrintDialogs printDialogs;
+    Platform platform{dialogs, clock, instance, browser, app, serial, printDialogs};
 
     operator Platform&() { return platform; }
 };

@@ -47,7 +47,6 @@ struct SetupViews : ::testing::Test {
 
     void start() {
         ASSERT_EQ(session.Main(), Session::StartResult::Running);
-        setup.Load();
         view = std::make_unique<SetupView>(session, setup);
         menu = std::make_unique<StartupView>(session, session.startup());
         setup.Show();
@@ -179,8 +178,7 @@ TEST_F(SetupViews, EveryPageOfEveryStripCanBeLookedAt) {
                  "\"Prairie Comfort Heating & Air\",\"1207 Wabash Ave\",\"Suite B\","
                  "\"Springfield\",\"IL\",\"62704\",\"217-555-0142\",\"www.example.com\",\"\"\r\n");
     t.writeBytes("/ServiceAreas.txt", "\"Crew One\"\r\n\"Crew Two\"\r\n");
-    session.modem.detected = true;
-    session.modem.foundPort = 3;
+    fake.serialMachine.attach(3, ostrel::test::ScriptedDevice::modem());
     start();
     view->resize(960, 660);
     const QStringList info = {"BusinessInfo", "SetupHelp",       "Options",

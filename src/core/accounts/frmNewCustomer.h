@@ -31,7 +31,7 @@ public:
     frmNewCustomer(Session& session, CustomerBuffers& buffers);
 
     // What loading the screen does once: record 1, the titles, the state codes.
-    void Load();
+    void Load() override;
     void Form_Activate() override;
 
     // Shared routines.

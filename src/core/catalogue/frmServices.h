@@ -27,11 +27,11 @@ public:
     // Start-up: the time list, the labor rates and the catalogue, which also fills the other
     // screens' lists. A file that cannot be read is reported, and is then never written over by
     // this run.
-    void Load();
+    void Load() override;
     // Each activation locks the entry boxes of the three item tabs.
     void Form_Activate() override;
     // Any closing of the screen: the catalogue files and the labor rates are written, once.
-    void Form_Unload();
+    void Form_Unload() override;
 
     void cmdServices_Click(int index);
     void fgServices_Click();

@@ -11,6 +11,7 @@ void Screen::setVisible(bool v) {
 void Screen::Show() {
     setVisible(true);
     Form_Activate();
+    if (activated) activated(*this);
 }
 
 void Screen::Hide() { setVisible(false); }

@@ -22,13 +22,19 @@ public:
     void Show();
     void Hide();
 
+    // Runs once, when start-up brings the screen into memory.
+    virtual void Load() {}
     // Runs each time the screen becomes the active one.
     virtual void Form_Activate() {}
+    // Runs as the program ends, before the screen is hidden for the last time.
+    virtual void Form_Unload() {}
 
     QString caption;
 
     // Told after each change of visibility (the view shows or hides its window).
     std::function<void(Screen&)> visibilityChanged;
+    // Told after each activation has run, which may have changed the caption.
+    std::function<void(Screen&)> activated;
 
 private:
     void setVisible(bool v);

@@ -5,6 +5,8 @@
 #include "Clock.h"
 #include "Dialogs.h"
 #include "Instance.h"
+#include "PrintDialogs.h"
+#include "SerialPort.h"
 
 namespace ostrel {
 
@@ -15,6 +17,8 @@ struct Platform {
     Instance& instance;
     Browser& browser;
     AppInfo& app;
+    SerialPort& serial;
+    PrintDialogs& printDialogs;
 };
 
 } // namespace ostrel

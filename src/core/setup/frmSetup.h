@@ -44,7 +44,7 @@ public:
 
     // Fills every control from the session's settings and modem status; run once the start-up
     // loads are done.
-    void Load();
+    void Load() override;
     // The main menu's Create/Modify: the help page and the work-day page set, then the screen shown.
     void ShowFromMenu();
     void Form_Activate() override;

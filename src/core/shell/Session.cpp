@@ -11,6 +11,7 @@
 #include "scheduling/DayScheduleStore.h"
 #include "setup/RequiredFiles.h"
 #include "store/StoreError.h"
+#include "telephony/LoadPhoneSettings.h"
 
 namespace ostrel {
 
@@ -42,21 +43,29 @@ Session::StartResult Session::Main() {
     // 3. The welcome screen.
     RegisterScreen(ScreenId::frmSplash, *m_splash);
     m_splash->Show();
-    // 4. The settings, read as the Setup screen loads.
+    // 4. The settings and the modem, read as the Setup screen loads.
     Guarded([&] { LoadSetupSettings(disk, programName(), settings); });
-    // 6. The Points of Service and their lists.
+    LoadPhoneSettings(*this, platform.serial);
+    LoadScreen(ScreenId::frmSetup);
+    // 6. The Points of Service and their lists; the account screen is loaded with its list.
     LoadServiceAreas();
+    LoadScreen(ScreenId::frmNewCustomer);
     // 7, 8. Day files of last year, then the past days of this one.
     const int count = pointOfServiceNames.UpperBound();
     Guarded([&] { PurgeLastYear(disk, today(), count); });
     Guarded([&] { PurgePastDays(disk, today(), today().dayOfYear(), count); });
-    // 9. The main menu, loaded hidden.
+    // 9. The main menu, loaded hidden, then the catalogue.
     RegisterScreen(ScreenId::frmStartup, *m_startup);
+    LoadScreen(ScreenId::frmServices);
     return StartResult::Running;
 }
 
 void Session::ExitProgram() {
-    for (auto it = m_loadOrder.rbegin(); it != m_loadOrder.rend(); ++it) m_screens.at(*it)->Hide();
+    for (auto it = m_loadOrder.rbegin(); it != m_loadOrder.rend(); ++it) {
+        Screen& screen = *m_screens.at(*it);
+        Guarded([&] { screen.Form_Unload(); });
+        screen.Hide();
+    }
     m_ended = true;
     platform.instance.Release();
     if (endProcess) endProcess();
@@ -128,6 +137,10 @@ bool Session::ShowScreen(ScreenId id) {
     }
     s->Show();
     return true;
+}
+
+void Session::LoadScreen(ScreenId id) {
+    if (Screen* s = FindScreen(id)) Guarded([&] { s->Load(); });
 }
 
 void Session::HideScreen(ScreenId id) {

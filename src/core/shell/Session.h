@@ -53,7 +53,7 @@ public:
     enum class StartResult { Running, AnotherCopyRunning };
     // The start-up sequence. Ends with the welcome screen shown, or refuses a second copy.
     StartResult Main();
-    // Hides every screen, last first, and ends the process.
+    // Unloads and hides every screen, last first, and ends the process.
     void ExitProgram();
     bool hasEnded() const { return m_ended; }
 
@@ -86,6 +86,8 @@ public:
     // Shows the screen; when this version has not got it, says so and returns false.
     bool ShowScreen(ScreenId id);
     void HideScreen(ScreenId id);
+    // Runs the screen's load, when the program has the screen.
+    void LoadScreen(ScreenId id);
     void SetPointOfServiceList(PointOfServiceList owner, ListControl* list);
 
     const QString& programName() const { return platform.app.programName(); }

@@ -1,6 +1,7 @@
 #include "frmStartup.h"
 
 #include "Session.h"
+#include "setup/frmSetup.h"
 
 namespace ostrel {
 
@@ -115,11 +116,12 @@ void frmStartup::cmdGoto_Click() {
 }
 
 void frmStartup::mnuCreate_Click() {
-    if (!m_session.HasScreen(ScreenId::frmSetup)) {
-        m_session.ShowScreen(ScreenId::frmSetup);
+    frmSetup* setup = m_session.ScreenAs<frmSetup>(ScreenId::frmSetup);
+    if (!setup) {
+        m_session.ShowScreen(ScreenId::frmSetup); // says the screen is not there
         return;
     }
-    m_session.ShowScreen(ScreenId::frmSetup);
+    setup->ShowFromMenu();
     Hide();
 }
 

@@ -1,5 +1,10 @@
 #include "Application.h"
 
+#include "shell/ProgramScreens.h"
+#include "views/DialerView.h"
+#include "views/NewCustomerView.h"
+#include "views/ServicesView.h"
+#include "views/SetupView.h"
 #include "views/SplashView.h"
 #include "views/StartupView.h"
 
@@ -15,13 +20,18 @@ void InitResources() { initUiResources(); }
 Application::Application(AppInfo app)
     : m_app(std::move(app)), m_lockRoot(QFileInfo(m_app.path()).absolutePath()), m_dialogs(m_app),
       m_instance(m_lockRoot, m_app.programName()),
-      m_platform{m_dialogs, m_clock, m_instance, m_browser, m_app} {
+      m_platform{m_dialogs, m_clock, m_instance, m_browser, m_app, m_serial, m_printDialogs} {
     InitResources();
     m_session = std::make_unique<Session>(m_lockRoot.root(), m_platform);
     m_session->endProcess = [] { QCoreApplication::quit(); };
     Binder::setAlarmSwitch([this] { return m_session->settings.program.alarms(); });
     m_splash = std::make_unique<SplashView>(*m_session, m_session->splash());
     m_startup = std::make_unique<StartupView>(*m_session, m_session->startup());
+    const ProgramScreens screens = AddProgramScreens(*m_session);
+    m_setup = std::make_unique<SetupView>(*m_session, screens.setup);
+    m_account = std::make_unique<NewCustomerView>(*m_session, screens.account);
+    m_services = std::make_unique<ServicesView>(*m_session, screens.services);
+    m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
 }
 
 Application::~Application() = default;

@@ -5,6 +5,8 @@
 #include "platform/SystemClock.h"
 #include "platform/DesktopBrowser.h"
 #include "platform/QtDialogs.h"
+#include "platform/QtPrintDialogs.h"
+#include "platform/QtSerialPort.h"
 #include "store/DataRoot.h"
 #include "shell/Session.h"
 
@@ -14,6 +16,10 @@ namespace ostrel::ui {
 
 class SplashView;
 class StartupView;
+class SetupView;
+class NewCustomerView;
+class ServicesView;
+class DialerView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
 class Application {
@@ -36,10 +42,16 @@ private:
     SystemClock m_clock;
     LockFileInstance m_instance;
     DesktopBrowser m_browser;
+    QtSerialPort m_serial;
+    QtPrintDialogs m_printDialogs;
     Platform m_platform;
     std::unique_ptr<Session> m_session;
     std::unique_ptr<SplashView> m_splash;
     std::unique_ptr<StartupView> m_startup;
+    std::unique_ptr<SetupView> m_setup;
+    std::unique_ptr<NewCustomerView> m_account;
+    std::unique_ptr<ServicesView> m_services;
+    std::unique_ptr<DialerView> m_dialer;
 };
 
 // The resources of the view library (pictures); a static library must ask for them.

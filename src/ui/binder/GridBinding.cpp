@@ -1,4 +1,5 @@
 #include "GridBinding.h"
+#include "GridWheel.h"
 
 #include "platform/QtColour.h"
 
@@ -34,6 +35,7 @@ GridBinding::GridBinding(Binder& binder, QTableWidget* table, Grid& model)
     table->setSelectionBehavior(QAbstractItemView::SelectItems);
     table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     table->setSortingEnabled(false);
+    InstallGridWheel(table);
     connect(table, &QTableWidget::cellClicked, this, [this] {
         if (pushing()) return;
         pull();

@@ -25,6 +25,9 @@ void FollowScreen(ScreenView& view, Screen& screen, Session& session) {
             window->hide();
         }
     };
+    screen.activated = [window](Screen& s) {
+        if (window) window->setWindowTitle(s.caption);
+    };
     view.setExitHandler([&session] { session.ExitProgram(); });
     if (screen.isVisible()) view.show();
 }

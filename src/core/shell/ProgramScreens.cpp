@@ -1,0 +1,23 @@
+#include "ProgramScreens.h"
+
+#include "Session.h"
+#include "accounts/frmNewCustomer.h"
+#include "catalogue/frmServices.h"
+#include "setup/frmSetup.h"
+#include "telephony/frmDialer.h"
+
+namespace ostrel {
+
+ProgramScreens AddProgramScreens(Session& session) {
+    auto& setup = session.AddScreen(ScreenId::frmSetup, std::make_unique<frmSetup>(session));
+    auto& account =
+        session.AddScreen(ScreenId::frmNewCustomer, std::make_unique<frmNewCustomer>(session, session.customer));
+    auto& services =
+        session.AddScreen(ScreenId::frmServices, std::make_unique<frmServices>(session, session.catalogueLists));
+    // The dialer talks on the channel the start-up probe left open on the modem.
+    auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
+    session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
+    return {setup, account, services, dialer};
+}
+
+} // namespace ostrel
