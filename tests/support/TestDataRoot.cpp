@@ -1,6 +1,7 @@
 #include "TestDataRoot.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -29,6 +30,21 @@ QByteArray TestDataRoot::readBytes(const QString& relative) const {
 }
 
 void TestDataRoot::makeDir(const QString& relative) const { QDir().mkpath(full(relative)); }
+void TestDataRoot::copyTree(const QString& tree) const {
+    const QDir source(tree);
+    QDirIterator it(tree, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QFileInfo entry(it.next());
+        const QString target = m_path + u'/' + source.relativeFilePath(entry.filePath());
+        if (entry.isDir()) {
+            QDir().mkpath(target);
+        } else {
+            QDir().mkpath(QFileInfo(target).path());
+            if (!QFile::copy(entry.filePath(), target)) ADD_FAILURE() << "cannot copy " << target.toStdString();
+        }
+    }
+}
+
 bool TestDataRoot::isFile(const QString& relative) const { return QFileInfo(full(relative)).isFile(); }
 bool TestDataRoot::isDir(const QString& relative) const { return QFileInfo(full(relative)).isDir(); }
 

@@ -24,6 +24,8 @@ public:
     void writeBytes(const QString& relative, const QByteArray& bytes) const;
     QByteArray readBytes(const QString& relative) const;
     void makeDir(const QString& relative) const;
+    // Copies every file and folder under `tree` into the root, as an owner copies a data folder.
+    void copyTree(const QString& tree) const;
     bool isFile(const QString& relative) const;
     bool isDir(const QString& relative) const;
 

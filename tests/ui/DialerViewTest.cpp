@@ -1,4 +1,5 @@
 #include "views/DialerView.h"
+#include "Screenshot.h"
 #include "FakePlatform.h"
 #include "ScriptedSerialPort.h"
 #include "TestDataRoot.h"
@@ -20,15 +21,9 @@ using namespace ostrel;
 using namespace ostrel::ui;
 using namespace ostrel::test;
 
-namespace {
+using ostrel::test::saveShot;
 
-// Saves a picture of a window when OSTREL_SCREENSHOTS names a folder, for a person to look at.
-void saveShot(QWidget& w, const QString& name) {
-    const QString dir = qEnvironmentVariable("OSTREL_SCREENSHOTS");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    w.grab().save(dir + u'/' + name + QStringLiteral(".png"));
-}
+namespace {
 
 struct DialerViewFixture : ::testing::Test {
     DialerViewFixture() {

@@ -1,4 +1,5 @@
 #include "views/NewCustomerView.h"
+#include "Screenshot.h"
 #include "../core/frmNewCustomerTestFixture.h"
 #include "UiEvents.h"
 #include "app/Application.h"
@@ -28,14 +29,9 @@ using namespace ostrel::ui;
 using ostrel::test::Business;
 using ostrel::test::Person;
 
-namespace {
+using ostrel::test::saveShot;
 
-void saveShot(QWidget& w, const QString& name) {
-    const QString dir = qEnvironmentVariable("OSTREL_SCREENSHOTS");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    w.grab().save(dir + u'/' + name + QStringLiteral(".png"));
-}
+namespace {
 
 struct NewCustomerViews : ostrel::test::AccountScreenFixture {
     NewCustomerViews() { InitResources(); }

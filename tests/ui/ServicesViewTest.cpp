@@ -1,4 +1,5 @@
 #include "views/ServicesView.h"
+#include "Screenshot.h"
 #include "FakePlatform.h"
 #include "TestDataRoot.h"
 #include "UiEvents.h"
@@ -28,14 +29,9 @@ using namespace ostrel::ui;
 using ostrel::test::FakePlatform;
 using ostrel::test::TestDataRoot;
 
-namespace {
+using ostrel::test::saveShot;
 
-void saveShot(QWidget& w, const QString& name) {
-    const QString dir = qEnvironmentVariable("OSTREL_SCREENSHOTS");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    w.grab().save(dir + u'/' + name + QStringLiteral(".png"));
-}
+namespace {
 
 InventoriedItemRecord item(const QString& description, const QString& category) {
     InventoriedItemRecord i;

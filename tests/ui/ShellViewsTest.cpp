@@ -1,4 +1,5 @@
 #include "FakePlatform.h"
+#include "Screenshot.h"
 #include "TestDataRoot.h"
 #include "UiEvents.h"
 #include "app/Application.h"
@@ -25,20 +26,14 @@ using namespace ostrel::ui;
 using ostrel::test::FakePlatform;
 using ostrel::test::TestDataRoot;
 
+using ostrel::test::saveShot;
+
 namespace {
 
 class StandInScreen : public Screen {
 public:
     using Screen::Screen;
 };
-
-// Saves a picture of a window when OSTREL_SCREENSHOTS names a folder, for a person to look at.
-void saveShot(QWidget& w, const QString& name) {
-    const QString dir = qEnvironmentVariable("OSTREL_SCREENSHOTS");
-    if (dir.isEmpty()) return;
-    QDir().mkpath(dir);
-    w.grab().save(dir + u'/' + name + QStringLiteral(".png"));
-}
 
 struct ShellViews : ::testing::Test {
     ShellViews() { InitResources(); }

@@ -18,7 +18,7 @@ namespace ostrel::ui {
 void InitResources() { initUiResources(); }
 
 Application::Application(AppInfo app)
-    : m_app(std::move(app)), m_lockRoot(QFileInfo(m_app.path()).absolutePath()), m_dialogs(m_app),
+    : m_app(std::move(app)), m_lockRoot(m_app.path()), m_dialogs(m_app),
       m_instance(m_lockRoot, m_app.programName()),
       m_platform{m_dialogs, m_clock, m_instance, m_browser, m_app, m_serial, m_printDialogs} {
     InitResources();

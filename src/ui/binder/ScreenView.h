@@ -23,6 +23,10 @@ public:
     void setExitHandler(std::function<void()> handler) { m_exit = std::move(handler); }
     // Runs each time the program shows the window (the screen's Activate event).
     void setActivateHandler(std::function<void()> handler) { m_activate = std::move(handler); }
+    // The screen's own activation has run and may have moved what the window shows.
+    void screenActivated() {
+        if (m_activate) m_binder.dispatch(m_activate);
+    }
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -26,7 +26,9 @@ void FollowScreen(ScreenView& view, Screen& screen, Session& session) {
         }
     };
     screen.activated = [window](Screen& s) {
-        if (window) window->setWindowTitle(s.caption);
+        if (!window) return;
+        window->setWindowTitle(s.caption);
+        window->screenActivated();
     };
     view.setExitHandler([&session] { session.ExitProgram(); });
     if (screen.isVisible()) view.show();

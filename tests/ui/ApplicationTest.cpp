@@ -1,0 +1,150 @@
+#include "Screenshot.h"
+#include "TestDataRoot.h"
+#include "UiEvents.h"
+#include "app/Application.h"
+#include "binder/ClickableImage.h"
+#include "shell/Session.h"
+#include "shell/frmStartup.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace ostrel;
+using namespace ostrel::ui;
+using ostrel::test::saveShot;
+using ostrel::test::TestDataRoot;
+
+namespace {
+
+// Answers each box the program puts up with its default button, as a hurried person would, and
+// keeps what the boxes said.
+class BoxAnswerer {
+public:
+    BoxAnswerer() {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            said << box->text();
+            if (QAbstractButton* b = box->defaultButton()) b->click();
+            else box->done(0);
+        });
+        m_timer.start(10);
+    }
+    QStringList said;
+
+private:
+    QTimer m_timer;
+};
+
+// The whole program on a data folder, with its real platform, as the executable starts it.
+struct ProgramWindows : ::testing::Test {
+    TestDataRoot t;
+    BoxAnswerer boxes;
+    std::unique_ptr<Application> app;
+
+    void start() {
+        app = std::make_unique<Application>(AppInfo(t.path() + QStringLiteral("/OstrelAppointmentScheduler")));
+        ASSERT_TRUE(app->start());
+        test::settle();
+    }
+    static QWidget* window(const QString& formName) {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == formName) return w;
+        ADD_FAILURE() << "no window " << formName.toStdString();
+        return nullptr;
+    }
+    static bool shown(const QString& formName) {
+        QWidget* w = window(formName);
+        return w && w->isVisible();
+    }
+    template <typename W> static W* child(const QString& formName, const QString& name) {
+        QWidget* w = window(formName);
+        W* c = w ? w->findChild<W*>(name) : nullptr;
+        EXPECT_NE(c, nullptr) << name.toStdString();
+        return c;
+    }
+    // The frame's close button, as the window manager delivers it.
+    static void closeByFrame(QWidget* w) {
+        QCloseEvent e;
+        QSpontaneKeyEvent::setSpontaneous(&e);
+        QCoreApplication::instance()->notify(w, &e);
+        test::settle();
+    }
+};
+
+} // namespace
+
+TEST_F(ProgramWindows, AFirstRunShowsTheWelcomeFrameAndTheLogoOpensSetup) {
+    start();
+    // The folder of the executable is the data root.
+    EXPECT_TRUE(t.isDir("/AuxFiles"));
+    EXPECT_TRUE(t.isFile("/OstrelAppointmentSchedulerSettings.txt"));
+    ASSERT_TRUE(shown("frmSplash"));
+    EXPECT_FALSE(shown("frmStartup"));
+    saveShot(*window("frmSplash"), "program-first-run-welcome");
+
+    test::click(child<QPushButton>("frmSplash", "cmdContinue"));
+    test::settle();
+    EXPECT_TRUE(child<QGroupBox>("frmSplash", "fraWelcome")->isVisible());
+    saveShot(*window("frmSplash"), "program-first-run-welcome-frame");
+
+    test::click(child<ClickableImage>("frmSplash", "Image1(1)"));
+    test::settle();
+    EXPECT_TRUE(shown("frmSetup"));
+    EXPECT_FALSE(shown("frmSplash"));
+    EXPECT_EQ(window("frmSetup")->windowTitle(), "Appointment Scheduker Setup");
+    saveShot(*window("frmSetup"), "program-first-run-setup");
+    EXPECT_TRUE(boxes.said.isEmpty()) << boxes.said.join(u'|').toStdString();
+
+    closeByFrame(window("frmSetup"));
+    EXPECT_TRUE(app->session().hasEnded());
+    for (QWidget* w : QApplication::topLevelWidgets())
+        EXPECT_FALSE(w->isVisible()) << w->objectName().toStdString();
+}
+
+TEST_F(ProgramWindows, TheLegacyShopGoesFromContinueToTheMenuAndItsRoutines) {
+    OSTREL_REQUIRE_LEGACY_FIXTURE();
+    t.copyTree(ostrel::test::legacyFixture());
+    start();
+    test::click(child<QPushButton>("frmSplash", "cmdContinue"));
+    test::settle();
+    ASSERT_TRUE(shown("frmStartup")) << boxes.said.join(u'|').toStdString();
+    EXPECT_FALSE(shown("frmSplash"));
+    EXPECT_EQ(window("frmStartup")->windowTitle(), "Appointment Main Menu");
+    saveShot(*window("frmStartup"), "program-legacy-menu");
+
+    frmStartup& menu = app->session().startup();
+    menu.optMainMenuSub_DblClick(7);
+    test::settle();
+    EXPECT_TRUE(shown("frmNewCustomer"));
+    EXPECT_FALSE(shown("frmStartup"));
+    EXPECT_FALSE(window("frmNewCustomer")->windowTitle().isEmpty());
+    saveShot(*window("frmNewCustomer"), "program-legacy-accounts");
+    app->session().HideScreen(ScreenId::frmNewCustomer);
+    menu.Show();
+
+    menu.optMainMenuSub_DblClick(6);
+    test::settle();
+    EXPECT_TRUE(shown("frmServices"));
+    saveShot(*window("frmServices"), "program-legacy-catalogue");
+    app->session().HideScreen(ScreenId::frmServices);
+    menu.Show();
+
+    menu.mnuCreate_Click();
+    test::settle();
+    EXPECT_TRUE(shown("frmSetup"));
+    saveShot(*window("frmSetup"), "program-legacy-setup");
+    EXPECT_TRUE(boxes.said.isEmpty()) << boxes.said.join(u'|').toStdString();
+
+    const QByteArray services = t.readBytes("/Services.txt");
+    closeByFrame(window("frmSetup"));
+    EXPECT_TRUE(app->session().hasEnded());
+    // Leaving unloads the catalogue, which writes back what it read.
+    EXPECT_EQ(t.readBytes("/Services.txt"), services);
+}
