@@ -1,4 +1,5 @@
 #include "DialerView.h"
+#include "NamedWidgets.h"
 
 #include "ScreenWindow.h"
 #include "shell/Session.h"
@@ -35,13 +36,7 @@ protected:
     }
 };
 
-template <typename W> W* named(const QString& name, QWidget* parent) {
-    auto* w = new W(parent);
-    w->setObjectName(name);
-    return w;
-}
-
-QLabel* label(const QString& name, QWidget* parent, int grow = 0, bool bold = false) {
+QLabel* styledLabel(const QString& name, QWidget* parent, int grow = 0, bool bold = false) {
     auto* l = named<QLabel>(name, parent);
     if (grow || bold) {
         QFont f = l->font();
@@ -75,16 +70,16 @@ DialerView::DialerView(Session& session, frmDialer& screen)
     callBox->setMinimumWidth(700);
     auto* call = new QGridLayout(callBox);
     call->setContentsMargins(12, 10, 12, 10);
-    call->addWidget(label(QStringLiteral("Label2(4)"), callBox), 0, 0, 1, 2);
-    QLabel* name = label(QStringLiteral("lblName"), callBox, 6, true);
+    call->addWidget(styledLabel(QStringLiteral("Label2(4)"), callBox), 0, 0, 1, 2);
+    QLabel* name = styledLabel(QStringLiteral("lblName"), callBox, 6, true);
     name->setMinimumHeight(34);
     call->addWidget(name, 1, 0, 1, 2);
-    QLabel* number = label(QStringLiteral("lblNumber"), callBox, 4, true);
+    QLabel* number = styledLabel(QStringLiteral("lblNumber"), callBox, 4, true);
     number->setMinimumHeight(30);
     call->addWidget(number, 2, 0);
     call->addWidget(named<QCheckBox>(QStringLiteral("ckDial1"), callBox), 2, 1, Qt::AlignRight);
     auto* statusRow = new QHBoxLayout;
-    QLabel* status = label(QStringLiteral("lblStatus"), callBox, 2, true);
+    QLabel* status = styledLabel(QStringLiteral("lblStatus"), callBox, 2, true);
     status->setFrameShape(QFrame::Panel);
     status->setFrameShadow(QFrame::Sunken);
     status->setMinimumHeight(48);
@@ -111,7 +106,7 @@ DialerView::DialerView(Session& session, frmDialer& screen)
     // The speed dial buttons, two columns of five, with what acts on them.
     auto* speed = new QHBoxLayout;
     auto* entries = new QVBoxLayout;
-    entries->addWidget(label(QStringLiteral("Label2(0)"), this, 1, true));
+    entries->addWidget(styledLabel(QStringLiteral("Label2(0)"), this, 1, true));
     auto* grid = new QGridLayout;
     for (int i = 0; i < 10; ++i) {
         QPushButton* b = button(QStringLiteral("cmdDialer(%1)").arg(i), this);
@@ -128,10 +123,10 @@ DialerView::DialerView(Session& session, frmDialer& screen)
     // A new entry is typed here.
     auto* frame = named<QGroupBox>(QStringLiteral("fraSpeedDial"), this);
     auto* form = new QGridLayout(frame);
-    QLabel* nameCaption = label(QStringLiteral("Label2(1)"), frame);
+    QLabel* nameCaption = styledLabel(QStringLiteral("Label2(1)"), frame);
     auto* nameBox = named<QLineEdit>(QStringLiteral("txtDialer(0)"), frame);
     nameCaption->setBuddy(nameBox);
-    QLabel* numberCaption = label(QStringLiteral("Label2(2)"), frame);
+    QLabel* numberCaption = styledLabel(QStringLiteral("Label2(2)"), frame);
     auto* numberBox = named<QLineEdit>(QStringLiteral("txtDialer(1)"), frame);
     numberCaption->setBuddy(numberBox);
     form->addWidget(nameCaption, 0, 0);
@@ -150,7 +145,7 @@ DialerView::DialerView(Session& session, frmDialer& screen)
 
     auto* help = named<QGroupBox>(QStringLiteral("fraHelp"), this);
     auto* helpLayout = new QVBoxLayout(help);
-    QLabel* helpText = label(QStringLiteral("lblHelp"), help);
+    QLabel* helpText = styledLabel(QStringLiteral("lblHelp"), help);
     helpText->setWordWrap(true);
     helpLayout->addWidget(helpText);
     outer->addWidget(help);
@@ -160,7 +155,7 @@ DialerView::DialerView(Session& session, frmDialer& screen)
     auto* modem = new QHBoxLayout;
     auto* probe = named<QLineEdit>(QStringLiteral("Text1"), this);
     probe->setMinimumWidth(260);
-    QLabel* port = label(QStringLiteral("Label2(3)"), this);
+    QLabel* port = styledLabel(QStringLiteral("Label2(3)"), this);
     port->setBuddy(probe);
     modem->addWidget(probe, 1);
     modem->addSpacing(8);

@@ -1,4 +1,5 @@
 #include "NewCustomerViewLayout.h"
+#include "NamedWidgets.h"
 
 #include "binder/ClickableImage.h"
 #include "binder/GridWheel.h"
@@ -23,22 +24,6 @@
 namespace ostrel::ui {
 
 namespace {
-
-QString element(const char* base, int index) {
-    return QStringLiteral("%1(%2)").arg(QLatin1String(base)).arg(index);
-}
-
-template <typename W> W* named(const QString& name, QWidget* parent) {
-    auto* w = new W(parent);
-    w->setObjectName(name);
-    return w;
-}
-
-QLabel* label(const QString& name, QWidget* parent, QWidget* buddy = nullptr) {
-    auto* l = named<QLabel>(name, parent);
-    if (buddy) l->setBuddy(buddy);
-    return l;
-}
 
 QLineEdit* box(const QString& name, QWidget* parent, int minWidth = 0) {
     auto* e = named<QLineEdit>(name, parent);

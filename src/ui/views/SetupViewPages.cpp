@@ -1,4 +1,5 @@
 #include "SetupViewPages.h"
+#include "NamedWidgets.h"
 
 #include "binder/ClickableImage.h"
 
@@ -23,22 +24,6 @@
 namespace ostrel::ui::setupview {
 
 namespace {
-
-QString element(const char* base, int index) {
-    return QStringLiteral("%1(%2)").arg(QLatin1String(base)).arg(index);
-}
-
-template <typename W> W* named(const QString& name, QWidget* parent) {
-    auto* w = new W(parent);
-    w->setObjectName(name);
-    return w;
-}
-
-QLabel* label(const QString& name, QWidget* parent, QWidget* buddy = nullptr) {
-    auto* l = named<QLabel>(name, parent);
-    if (buddy) l->setBuddy(buddy);
-    return l;
-}
 
 QLabel* wrapped(const QString& name, QWidget* parent) {
     QLabel* l = label(name, parent);

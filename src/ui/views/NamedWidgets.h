@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QLabel>
+#include <QString>
+#include <QWidget>
+
+namespace ostrel::ui {
+
+// Every widget of a view carries its control's name, so tests and the binder find it by name.
+template <typename W> W* named(const QString& name, QWidget* parent) {
+    auto* w = new W(parent);
+    w->setObjectName(name);
+    return w;
+}
+
+// The name of one element of a control array: "cmdNav(3)".
+inline QString element(const char* base, int index) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String(base)).arg(index);
+}
+
+// A caption, tied to the box it names so that its access key reaches the box.
+inline QLabel* label(const QString& name, QWidget* parent, QWidget* buddy = nullptr) {
+    auto* l = named<QLabel>(name, parent);
+    if (buddy) l->setBuddy(buddy);
+    return l;
+}
+
+} // namespace ostrel::ui
