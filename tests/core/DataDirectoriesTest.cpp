@@ -36,6 +36,15 @@ TEST(PrepareDataDirectories, MakesTheFixedTreeOnAnEmptyRoot) {
         EXPECT_TRUE(t.isDir(d)) << d;
 }
 
+TEST(PrepareDataDirectories, TheExecutableStandingUnderTheProgramNameIsLeftAloneAndTheRestIsMade) {
+    TestDataRoot t;
+    t.writeBytes("/OstrelAppointmentScheduler", "\x7f" "ELF");
+    EXPECT_TRUE(PrepareDataDirectories(t.disk(), kToday, "OstrelAppointmentScheduler").isEmpty());
+    EXPECT_EQ(t.readBytes("/OstrelAppointmentScheduler"), QByteArray("\x7f" "ELF"));
+    for (const char* d : {"/2026", "/Templates", "/Backup", "/AuxFiles", "/Appointments", "/SoldItems", "/Services"})
+        EXPECT_TRUE(t.isDir(d)) << d;
+}
+
 TEST(PrepareDataDirectories, TheProgramFolderFollowsTheRunningName) {
     TestDataRoot t;
     PrepareDataDirectories(t.disk(), kToday, "Renamed");

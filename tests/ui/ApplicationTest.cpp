@@ -49,6 +49,8 @@ struct ProgramWindows : ::testing::Test {
     std::unique_ptr<Application> app;
 
     void start() {
+        // The executable lives in its data folder under the program's name.
+        t.writeBytes("/OstrelAppointmentScheduler", QByteArray("\x7f" "ELF"));
         app = std::make_unique<Application>(AppInfo(t.path() + QStringLiteral("/OstrelAppointmentScheduler")));
         ASSERT_TRUE(app->start());
         test::settle();

@@ -66,7 +66,10 @@ QString accountProblem(const QString& account, int recordNumber) {
 QStringList PrepareDataDirectories(DiskRoutines& disk, QDate today, const QString& programName) {
     QStringList problems;
     disk.MakeDirectoryIfAbsent(u'/' + QString::number(today.year()).rightJustified(4, u'0'));
-    disk.MakeDirectoryIfAbsent(u'/' + programName);
+    // The program's own folder is never used again. Here the executable has no extension, so it
+    // stands in the data root under that very name; it is left alone rather than being in the way.
+    const QString programFolder = u'/' + programName;
+    if (!disk.root().resolve(programFolder).isFile()) disk.MakeDirectoryIfAbsent(programFolder);
     for (const char* name : {"/Templates", "/OIActiveAccounts", "/Backup", "\\Backup\\OIActiveAccounts",
                              "\\Backup\\Assignments", "/AuxFiles"})
         disk.MakeDirectoryIfAbsent(QString::fromLatin1(name));
