@@ -1,3 +1,4 @@
+#include "CatalogueSamples.h"
 #include "FakePlatform.h"
 #include "TestDataRoot.h"
 #include "catalogue/CustomItemRecord.h"
@@ -12,33 +13,12 @@
 #include <gtest/gtest.h>
 
 using namespace ostrel;
+using ostrel::test::custom;
 using ostrel::test::FakePlatform;
+using ostrel::test::item;
 using ostrel::test::TestDataRoot;
 
 namespace {
-
-InventoriedItemRecord item(const QString& description, const QString& category) {
-    InventoriedItemRecord i;
-    i.Description = description;
-    i.Category = category;
-    i.UnitCost = 40000;
-    i.SellPrice = 125000;
-    i.OnHand = 12;
-    i.DiscountPrice = 100000;
-    i.DiscountQuantity = 10;
-    i.ReorderAmount = 6;
-    i.ReorderAt = 2;
-    return i;
-}
-
-CustomItemRecord custom(const QString& description) {
-    CustomItemRecord c;
-    c.Description = description;
-    c.SellPrice = 75000;
-    c.DiscountPrice = 60000;
-    c.DiscountQuantity = 3;
-    return c;
-}
 
 struct ServicesEntry : ::testing::Test {
     TestDataRoot t;

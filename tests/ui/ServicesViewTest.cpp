@@ -1,5 +1,6 @@
 #include "views/ServicesView.h"
 #include "Screenshot.h"
+#include "CatalogueSamples.h"
 #include "FakePlatform.h"
 #include "TestDataRoot.h"
 #include "UiEvents.h"
@@ -26,35 +27,14 @@
 
 using namespace ostrel;
 using namespace ostrel::ui;
+using ostrel::test::custom;
 using ostrel::test::FakePlatform;
+using ostrel::test::item;
 using ostrel::test::TestDataRoot;
 
 using ostrel::test::saveShot;
 
 namespace {
-
-InventoriedItemRecord item(const QString& description, const QString& category) {
-    InventoriedItemRecord i;
-    i.Description = description;
-    i.Category = category;
-    i.UnitCost = 40000;
-    i.SellPrice = 125000;
-    i.OnHand = 12;
-    i.DiscountPrice = 100000;
-    i.DiscountQuantity = 10;
-    i.ReorderAmount = 6;
-    i.ReorderAt = 2;
-    return i;
-}
-
-CustomItemRecord custom(const QString& description) {
-    CustomItemRecord c;
-    c.Description = description;
-    c.SellPrice = 75000;
-    c.DiscountPrice = 60000;
-    c.DiscountQuantity = 3;
-    return c;
-}
 
 struct ServicesViewTest : ::testing::Test {
     TestDataRoot t;
