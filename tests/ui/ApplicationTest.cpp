@@ -8,7 +8,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QGroupBox>
+#include <QLineEdit>
+#include <QTabWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -149,4 +152,44 @@ TEST_F(ProgramWindows, TheLegacyShopGoesFromContinueToTheMenuAndItsRoutines) {
     EXPECT_TRUE(app->session().hasEnded());
     // Leaving unloads the catalogue, which writes back what it read.
     EXPECT_EQ(t.readBytes("/Services.txt"), services);
+}
+
+TEST_F(ProgramWindows, AFirstRunTypedIntoSetupOpensTheMenuAndTheNextStartGoesOnToIt) {
+    start();
+    test::click(child<QPushButton>("frmSplash", "cmdContinue"));
+    test::settle();
+    test::click(child<ClickableImage>("frmSplash", "Image1(1)"));
+    test::settle();
+    ASSERT_TRUE(shown("frmSetup"));
+
+    QLineEdit* name = child<QLineEdit>("frmSetup", "txtBusiness(0)");
+    name->setFocus();
+    test::typeText(name, "Prairie Comfort");
+    QLineEdit* telephone = child<QLineEdit>("frmSetup", "txtBusiness(6)");
+    telephone->setFocus();
+    test::typeText(telephone, "217-555-0142");
+    child<QTabWidget>("frmSetup", "tabInfo")->setCurrentIndex(4);
+    test::settle();
+    auto* areas = child<QComboBox>("frmSetup", "cboAssignments");
+    areas->setFocus();
+    test::typeText(areas->lineEdit(), "Crew One");
+    test::click(child<QPushButton>("frmSetup", "cmdSave"));
+    test::settle();
+    test::click(child<QPushButton>("frmSetup", "cmdQuit"));
+    test::settle();
+    EXPECT_TRUE(boxes.said.isEmpty()) << boxes.said.join(u'|').toStdString();
+    EXPECT_FALSE(shown("frmSetup"));
+    ASSERT_TRUE(shown("frmStartup"));
+    saveShot(*window("frmStartup"), "program-first-run-menu");
+    EXPECT_EQ(t.readBytes("/ServiceAreas.txt"), "\"Crew One\"\r\n");
+    EXPECT_TRUE(t.readBytes("/MyBusinessData.txt").startsWith("\"Prairie Comfort\""));
+
+    app->session().startup().mnuExit_Click();
+    test::settle();
+    app.reset();
+    start();
+    test::click(child<QPushButton>("frmSplash", "cmdContinue"));
+    test::settle();
+    EXPECT_TRUE(shown("frmStartup"));
+    EXPECT_FALSE(shown("frmSplash"));
 }
