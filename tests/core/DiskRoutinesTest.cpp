@@ -183,6 +183,28 @@ TEST(ReplaceTextFile, DeletesTheBackupAndWritesTheFileWhole) {
     EXPECT_FALSE(t.isFile("/Backup/ServiceAreas.txt"));
 }
 
+TEST(ReplaceRecordFile, DropsTheBackupAndReplacesTheFileUnderItsOwnSpelling) {
+    TestDataRoot t;
+    t.writeBytes("/SERVICES.TXT", QByteArray(72, 'o') + QByteArray(72, 'o'));
+    t.writeBytes("/Backup/Services.txt", QByteArray(72, 'o'));
+    t.disk().ReplaceRecordFile("/Services.txt", QByteArray(72, 'n'));
+    EXPECT_EQ(t.readBytes("/SERVICES.TXT"), QByteArray(72, 'n'));
+    EXPECT_FALSE(t.isFile("/Services.txt"));
+    EXPECT_FALSE(t.isFile("/Backup/Services.txt"));
+}
+
+TEST(ReplaceRecordFile, AFileThatCannotBeWrittenIsAStoreErrorNamingIt) {
+    TestDataRoot t;
+    t.makeDir("/Services.txt"); // a folder stands where the file should go
+    try {
+        t.disk().ReplaceRecordFile("/Services.txt", QByteArray(72, 'n'));
+        ADD_FAILURE() << "no error";
+    } catch (const StoreError& e) {
+        EXPECT_EQ(e.file(), "/Services.txt");
+    }
+    EXPECT_TRUE(t.isDir("/Services.txt"));
+}
+
 TEST(RenameDataFile, OntoAnExistingNameFails) {
     TestDataRoot t;
     t.writeBytes("/CUSTOMER.TMP", "new");

@@ -49,13 +49,15 @@ QVector<Record> ReadCatalogueRecords(DiskRoutines& disk, const QString& name, in
 void WriteCatalogueRecords(DiskRoutines& disk, const QString& name, int recordLength,
                            const QVector<Record>& records) {
     CheckCatalogueCount(name, records.size());
-    disk.DeleteFileAndBackup(name);
-    if (records.isEmpty()) return;
-    ClosedOnExit guard(disk);
-    RandomFile& file = disk.OpenRandom(name, recordLength);
-    for (qsizetype i = 0; i < records.size(); ++i)
-        file.put(static_cast<int>(i + 1), records[i]);
-    disk.CloseAllFiles();
+    if (records.isEmpty()) {
+        disk.DeleteFileAndBackup(name);
+        return;
+    }
+    QByteArray bytes;
+    bytes.reserve(qsizetype(recordLength) * records.size());
+    for (const Record& r : records)
+        bytes += r.bytes();
+    disk.ReplaceRecordFile(name, bytes);
 }
 
 } // namespace ostrel

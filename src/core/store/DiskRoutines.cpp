@@ -255,4 +255,9 @@ void DiskRoutines::ReplaceTextFile(const QString& name, const TextWriter& conten
     CloseAllFiles();
 }
 
+void DiskRoutines::ReplaceRecordFile(const QString& name, const QByteArray& records) {
+    DeleteDataFile(kBackup + name);
+    writeWhole(writableTarget(name), name, records);
+}
+
 } // namespace ostrel

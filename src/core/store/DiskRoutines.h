@@ -65,6 +65,9 @@ public:
     // The text writers' habit, made safe: the backup copy is deleted, and the file is replaced
     // whole or not at all.
     void ReplaceTextFile(const QString& name, const TextWriter& content);
+    // The same for a file of fixed records written whole: its backup copy is dropped, and the file
+    // is replaced in one step, so a crash leaves the old records or the new ones.
+    void ReplaceRecordFile(const QString& name, const QByteArray& records);
     // The whole file for the field and line reads; throws when it is absent.
     TextReader ReadTextFile(const QString& name);
 
