@@ -1,4 +1,5 @@
 #include "ServicesView.h"
+#include "NamedWidgets.h"
 
 #include "ScreenWindow.h"
 #include "binder/ClickableImage.h"
@@ -24,19 +25,10 @@ namespace ostrel::ui {
 
 namespace {
 
-QString indexed(const char* name, int i) {
-    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i);
-}
-
-QPushButton* button(int index, QWidget* parent) {
-    auto* b = new QPushButton(parent);
-    b->setObjectName(indexed("cmdServices", index));
-    return b;
-}
+QPushButton* button(int index, QWidget* parent) { return named<QPushButton>(element("cmdServices", index), parent); }
 
 QLineEdit* edit(const QString& name, QWidget* parent, int width = 0) {
-    auto* e = new QLineEdit(parent);
-    e->setObjectName(name);
+    auto* e = named<QLineEdit>(name, parent);
     if (width > 0) {
         e->setMinimumWidth(width * 3 / 4);
         e->setMaximumWidth(width);
@@ -130,8 +122,8 @@ QWidget* ServicesView::servicesPage() {
 
     auto* side = new QVBoxLayout;
     auto* form = new QFormLayout;
-    addRow(form, QStringLiteral("Description"), edit(indexed("txtDescription", 0), page));
-    addRow(form, QStringLiteral("Charge"), edit(indexed("txtCharge", 0), page, 140));
+    addRow(form, QStringLiteral("Description"), edit(element("txtDescription", 0), page));
+    addRow(form, QStringLiteral("Charge"), edit(element("txtCharge", 0), page, 140));
     auto* time = new QListWidget(page);
     time->setObjectName(QStringLiteral("lstTime"));
     time->setMaximumWidth(140);
@@ -152,7 +144,7 @@ QWidget* ServicesView::itemsPage() {
     // What the item is on the left, its money in the middle, its stock on the right.
     auto* fields = new QHBoxLayout;
     auto* what = new QFormLayout;
-    addRow(what, QStringLiteral("Description"), edit(indexed("txtDescription", 1), page));
+    addRow(what, QStringLiteral("Description"), edit(element("txtDescription", 1), page));
     auto* category = new QComboBox(page);
     category->setObjectName(QStringLiteral("cboCategory"));
     category->setEditable(true);
@@ -165,8 +157,8 @@ QWidget* ServicesView::itemsPage() {
 
     auto* money = new QFormLayout;
     addRow(money, QStringLiteral("Cost per Unit (what you pay)"), edit(QStringLiteral("txtCost"), page, 140));
-    addRow(money, QStringLiteral("Sell Price"), edit(indexed("txtCharge", 1), page, 140));
-    addRow(money, QStringLiteral("Discount Price"), edit(indexed("txtCharge", 2), page, 140));
+    addRow(money, QStringLiteral("Sell Price"), edit(element("txtCharge", 1), page, 140));
+    addRow(money, QStringLiteral("Discount Price"), edit(element("txtCharge", 2), page, 140));
     addRow(money, QStringLiteral("Discount Qty"), edit(QStringLiteral("txtDiscountQty"), page, 100));
     fields->addLayout(money, 2);
     fields->addSpacing(16);
@@ -193,10 +185,10 @@ QWidget* ServicesView::laborPage() {
     g->addWidget(new QLabel(QStringLiteral("Labor Heading"), page), 0, 1);
     g->addWidget(new QLabel(QStringLiteral("Hourly Rate"), page), 0, 2);
     for (int i = 0; i <= 2; ++i) {
-        auto* heading = edit(indexed("txtLabor", i), page);
+        auto* heading = edit(element("txtLabor", i), page);
         heading->setMinimumWidth(300);
         heading->setAccessibleName(QStringLiteral("Labor Heading %1").arg(i + 1));
-        auto* rate = edit(indexed("txtLaborRate", i), page, 140);
+        auto* rate = edit(element("txtLaborRate", i), page, 140);
         rate->setAccessibleName(QStringLiteral("Hourly Rate %1").arg(i + 1));
         auto* number = new QLabel(QStringLiteral("%1.").arg(i + 1), page);
         number->setBuddy(heading);
@@ -223,9 +215,9 @@ QWidget* ServicesView::customPage() {
 
     auto* side = new QVBoxLayout;
     auto* form = new QFormLayout;
-    addRow(form, QStringLiteral("Description"), edit(indexed("txtDescription", 2), page));
-    addRow(form, QStringLiteral("Price"), edit(indexed("txtCharge", 3), page, 140));
-    addRow(form, QStringLiteral("Discount Price"), edit(indexed("txtCharge", 4), page, 140));
+    addRow(form, QStringLiteral("Description"), edit(element("txtDescription", 2), page));
+    addRow(form, QStringLiteral("Price"), edit(element("txtCharge", 3), page, 140));
+    addRow(form, QStringLiteral("Discount Price"), edit(element("txtCharge", 4), page, 140));
     addRow(form, QStringLiteral("Discount Qty"), edit(QStringLiteral("txtCustomDiscItems"), page, 100));
     side->addLayout(form);
     side->addLayout(buttonBlock({18, 19, 22, 20, 21, 23}, page));
@@ -242,7 +234,7 @@ QWidget* ServicesView::instructionsPage() {
     column->setContentsMargins(16, 12, 16, 12);
     for (const auto& [i, model] : m_screen.lblInstructions) {
         auto* l = new QLabel(body);
-        l->setObjectName(indexed("lblInstructions", i));
+        l->setObjectName(element("lblInstructions", i));
         l->setWordWrap(true);
         // The headings are the lines written in capitals.
         if (model.caption == model.caption.toUpper()) {
