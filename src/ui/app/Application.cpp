@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 
 static void initUiResources() { Q_INIT_RESOURCE(ui); }
 
@@ -22,6 +23,9 @@ Application::Application(AppInfo app)
       m_instance(m_lockRoot, m_app.programName()),
       m_platform{m_dialogs, m_clock, m_instance, m_browser, m_app, m_serial, m_printDialogs} {
     InitResources();
+    // Every window shows the program's icon; the desktop entry of an installed copy shows the same.
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/icon.png")));
+    QGuiApplication::setDesktopFileName(QStringLiteral("ostrel-appointment-scheduler"));
     m_session = std::make_unique<Session>(m_lockRoot.root(), m_platform);
     m_session->endProcess = [] { QCoreApplication::quit(); };
     Binder::setAlarmSwitch([this] { return m_session->settings.program.alarms(); });
