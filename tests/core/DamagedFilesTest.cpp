@@ -27,6 +27,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <optional>
 #include <random>
 #include <unistd.h>
@@ -161,12 +162,14 @@ Outcome runProgramOn(const QString& file, Damage damage, QByteArray& damaged, bo
         Session session(t.path(), fake);
         ProgramScreens screens = AddProgramScreens(session);
         session.Main();
-        session.splash().cmdContinue_Click();
-        session.startup().optMainMenuSub_DblClick(7); // the account screen
-        screens.account.cmdCustomer_Click(0);          // back to the menu
-        session.startup().optMainMenuSub_DblClick(6); // the catalogue
-        screens.services.cmdServices_Click(0);         // back to the menu, saving the catalogue
-        session.ExitProgram();
+        // Each event as the views run one: a routine that stops reports its StoreError in a box.
+        const auto event = [&](const std::function<void()>& f) { session.Guarded(f); };
+        event([&] { session.splash().cmdContinue_Click(); });
+        event([&] { session.startup().optMainMenuSub_DblClick(7); }); // the account screen
+        event([&] { screens.account.cmdCustomer_Click(0); });          // back to the menu, saving
+        event([&] { session.startup().optMainMenuSub_DblClick(6); }); // the catalogue
+        event([&] { screens.services.cmdServices_Click(0); });         // back to the menu, saving
+        event([&] { session.ExitProgram(); });
     } catch (const std::exception& e) {
         ADD_FAILURE() << file.toStdString() << ", " << damageName(damage) << ": the program stopped: " << e.what();
     }

@@ -21,7 +21,9 @@ struct Installation {
         QDir().mkpath(prefix + QStringLiteral("/share/ostrel-appointment-scheduler/data/CompletedInvoices"));
         QDir().mkpath(prefix + QStringLiteral("/share/ostrel-appointment-scheduler/data/OstrelInvoicer/Narratives"));
         QDir().mkpath(home);
-        QFile::copy(QStringLiteral(OSTREL_LAUNCHER), prefix + QStringLiteral("/bin/ostrel-appointment-scheduler"));
+        const QString launcher = prefix + QStringLiteral("/bin/ostrel-appointment-scheduler");
+        QFile::copy(QStringLiteral(OSTREL_LAUNCHER), launcher);
+        QFile::setPermissions(launcher, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
         write(QStringLiteral("/share/ostrel-appointment-scheduler/data/StatesList.txt"), "\"AL\"\r\n");
         installExecutable("1");
     }

@@ -140,6 +140,9 @@ TEST_F(AccountScreen, ActivationRebuildsAMissingCycleFileWithOneDefaultRecordPer
     writeSeven();
     QFile::remove(t.full("/CycleInfo.txt"));
     open();
+    EXPECT_BOX(fake.dialogs, "Customer Files",
+               "The file CycleInfo.txt was missing, so it was made anew with the default entries for each of the 7 "
+               "customers.");
     fake.dialogs.verify();
     const QByteArray cycle = t.readBytes("/CycleInfo.txt");
     ASSERT_EQ(cycle.size(), 7 * 69);

@@ -6,6 +6,9 @@
 #include "catalogue/CatalogueFile.h"
 #include "catalogue/CatalogueStore.h"
 #include "catalogue/ServiceRecord.h"
+#include "invoicing/AssociateJournal.h"
+#include "invoicing/InvoiceImage.h"
+#include "scheduling/AppointmentSlip.h"
 #include "scheduling/DayScheduleStore.h"
 #include "setup/SetupSettings.h"
 
@@ -151,6 +154,100 @@ SaveKind dayFileSave() {
     return k;
 }
 
+AppointmentSlip slip(const QString& status, const QString& comment) {
+    AppointmentSlip a;
+    a.Status = status;
+    a.SlipDate = kToday;
+    a.SlipName = SlipName(1, QStringLiteral("324-7"));
+    a.SlipPointOfService = 1;
+    a.Slots = 4;
+    a.SlipStartRow = 12;
+    a.Customer = {QStringLiteral("A1"), QStringLiteral("Ann Lee"), QStringLiteral("12 Elm St"), QString(),
+                  QStringLiteral("Springfield"), QStringLiteral("IL"), QStringLiteral("62701"),
+                  QStringLiteral("217-555-0100")};
+    a.SlipComment = comment;
+    return a;
+}
+
+void makeSlipFolders(DiskRoutines& disk) {
+    for (const char* f : {"/Appointments", "/Services", "/SoldItems"}) disk.MakeDirectoryIfAbsent(QString::fromLatin1(f));
+}
+
+SaveKind appointmentSlipSave() {
+    SaveKind k;
+    k.name = QStringLiteral("appointment slip with its files");
+    k.prepare = [](DiskRoutines& disk) {
+        makeSlipFolders(disk);
+        const AppointmentSlip a = slip(slipstatus::Scheduled, QStringLiteral("Side door"));
+        WriteSlip(disk, a);
+        WriteServicesFile(disk, a.SlipName, {{QStringLiteral("Diagnostic Check"), Money::fromTenThousandths(650000), 4}});
+        WriteSoldItemsFile(disk, a.SlipName, {{QStringLiteral("1"), QStringLiteral("Igniter"), QStringLiteral("$24.80")}});
+        WriteFileToPrint(disk, QStringLiteral("1 - 324-6"));
+        SlipCounter counter{QStringLiteral("324"), 7, QStringLiteral("324-7")};
+        SaveSlipCounter(disk, counter);
+    };
+    k.save = [](DiskRoutines& disk) {
+        const AppointmentSlip a = slip(slipstatus::Invoiced, QStringLiteral("Rang twice, left a card"));
+        WriteSlip(disk, a);
+        WriteServicesFile(disk, a.SlipName,
+                          {{QStringLiteral("Diagnostic Check"), Money::fromTenThousandths(650000), 4},
+                           {QStringLiteral("Furnace Tune-up"), Money::fromTenThousandths(1150000), 6}});
+        WriteSoldItemsFile(disk, a.SlipName,
+                           {{QStringLiteral("2"), QStringLiteral("Igniter"), QStringLiteral("$24.80")},
+                            {QStringLiteral("1"), QStringLiteral("Filter"), QStringLiteral("$9.95")}});
+        WriteFileToPrint(disk, a.SlipName);
+        SlipCounter counter{QStringLiteral("324"), 7, QStringLiteral("324-7")};
+        UpcountSlipCounter(disk, counter);
+    };
+    return k;
+}
+
+SaveKind journalPosting() {
+    SaveKind k;
+    k.name = QStringLiteral("associate journal posting");
+    const auto record = [](int i) {
+        AssociateJournalRecord r;
+        r.Transaction = QStringLiteral("Customer %1").arg(i);
+        r.Account = QStringLiteral("2026%1").arg(i, 4, 10, QLatin1Char('0'));
+        r.JournalDate = kToday;
+        r.Associate = QStringLiteral("Crew One");
+        r.SubTotal = 1000000 + i;
+        r.Gross = 1072500 + i;
+        return r;
+    };
+    k.prepare = [record](DiskRoutines& disk) {
+        for (int i = 1; i <= 50; ++i) AddJournalRecord(disk, record(i));
+    };
+    k.save = [record](DiskRoutines& disk) { AddJournalRecord(disk, record(51)); };
+    k.recordLengths = {{AssociateJournalRecord::kFileName, AssociateJournalRecord::kLength}};
+    return k;
+}
+
+SaveKind invoiceImageSave() {
+    SaveKind k;
+    k.name = QStringLiteral("completed invoice image");
+    const auto image = [](const QString& total) {
+        PostedInvoice p;
+        p.invoiceNo = QStringLiteral("20260042");
+        p.accountNo = QStringLiteral("A1");
+        p.customer = {QStringLiteral("Ann Lee"), QStringLiteral("12 Elm St"), QString(), QStringLiteral("Springfield"),
+                      QStringLiteral("IL"), QStringLiteral("62701")};
+        p.dateText = QStringLiteral("11/20/2026");
+        for (int i = 0; i < 12; ++i)
+            p.lines.append({QStringLiteral("1"), QStringLiteral("Line %1").arg(i), QStringLiteral("11/20/2026"),
+                            QStringLiteral("$10.00"), QStringLiteral("$10.00"), QStringLiteral("Y")});
+        p.total = total;
+        p.grandTotal = total;
+        return MakeInvoiceImage(p);
+    };
+    k.prepare = [image](DiskRoutines& disk) {
+        disk.MakeDirectoryIfAbsent(QStringLiteral("/CompletedInvoices"));
+        WriteInvoiceImage(disk, image(QStringLiteral("$120.00")));
+    };
+    k.save = [image](DiskRoutines& disk) { WriteInvoiceImage(disk, image(QStringLiteral("$130.00"))); };
+    return k;
+}
+
 } // namespace
 
 std::vector<SaveKind> AllSaveKinds() {
@@ -160,6 +257,9 @@ std::vector<SaveKind> AllSaveKinds() {
         catalogueSave(),
         settingsSave(),
         dayFileSave(),
+        appointmentSlipSave(),
+        journalPosting(),
+        invoiceImageSave(),
     };
 }
 

@@ -5,6 +5,7 @@
 #include "CustomItemRecord.h"
 #include "InventoriedItemRecord.h"
 #include "ServiceRecord.h"
+#include "shell/RecordFormats.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
 
@@ -222,6 +223,9 @@ bool CatalogueStore::LoadCustomItems() {
 }
 
 void CatalogueStore::LoadCatalogue() {
+    // A folder standing where a file belongs is named too, though the loads pass it over as absent.
+    for (const QString* name : {&ServiceRecord::kFileName, &InventoriedItemRecord::kFileName, &CustomItemRecord::kFileName})
+        if (m_disk.DirectoryExists(*name)) CheckRecordFileOnRead(m_disk, *name);
     LoadServices();
     LoadInventoriedItems();
     LoadCustomItems();

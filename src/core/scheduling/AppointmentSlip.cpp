@@ -162,7 +162,7 @@ bool SoldItemsFileExists(DiskRoutines& disk, const QString& slipName) {
 }
 
 void WriteFileToPrint(DiskRoutines& disk, const QString& slipName) {
-    disk.DeleteDataFile(kFileToPrint);
+    // The new hand-over takes the old one's place in one step: a crash never leaves none.
     TextWriter out;
     out.writeString(slipName);
     disk.ReplaceTextFile(kFileToPrint, out);
