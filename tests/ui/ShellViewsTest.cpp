@@ -137,12 +137,16 @@ TEST_F(ShellViews, DoubleClickOnARoutineOpensItsScreen) {
 TEST_F(ShellViews, ARoutineChosenInEitherBoxClearsThePreselectedOneAndGotoOpensIt) {
     StandInScreen accounts("frmNewCustomer");
     session.RegisterScreen(ScreenId::frmNewCustomer, accounts);
+    // With services and items on file the menu preselects "Create an Appointment ".
+    t.writeBytes("/Services.txt", QByteArray(72, ' '));
+    t.writeBytes("/OIInventoriedItems.txt", QByteArray(104, ' '));
     frmStartup& frm = session.startup();
-    for (auto& [i, option] : frm.optMainMenuSub) option.value = i == 5; // "Create an Appointment "
     frm.Show();
+    Binder::syncAll(); // what follows any event: the widgets show the models
     test::settle();
     auto* appointment = find<QRadioButton>(menu, "optMainMenuSub(5)");
     auto* records = find<QRadioButton>(menu, "optMainMenuSub(7)"); // in the other box
+    ASSERT_TRUE(frm.optMainMenuSub[5].value) << "model";
     ASSERT_TRUE(appointment->isChecked());
     test::click(records);
     test::settle();
@@ -158,9 +162,11 @@ TEST_F(ShellViews, ARoutineChosenInEitherBoxClearsThePreselectedOneAndGotoOpensI
 TEST_F(ShellViews, ARoutineChosenByKeyboardOrAccessibilityIsTheOneGotoOpens) {
     StandInScreen catalogue("frmServices");
     session.RegisterScreen(ScreenId::frmServices, catalogue);
+    t.writeBytes("/Services.txt", QByteArray(72, ' '));
+    t.writeBytes("/OIInventoriedItems.txt", QByteArray(104, ' '));
     frmStartup& frm = session.startup();
-    for (auto& [i, option] : frm.optMainMenuSub) option.value = i == 5;
     frm.Show();
+    Binder::syncAll(); // what follows any event: the widgets show the models
     test::settle();
     auto* services = find<QRadioButton>(menu, "optMainMenuSub(6)");
     QAccessibleInterface* access = QAccessible::queryAccessibleInterface(services);
