@@ -11,7 +11,7 @@ namespace ostrel {
 namespace {
 constexpr int kTransaction = 0;
 constexpr int kAccount = 30;
-constexpr int kDate = 50;
+constexpr int kDate = AssociateJournalRecord::kDateOffset;
 constexpr int kAssociate = 58;
 constexpr int kSubTotal = 83;
 constexpr int kTax = 91;

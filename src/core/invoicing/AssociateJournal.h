@@ -16,6 +16,7 @@ struct AssociateJournalRecord {
     static constexpr int kTransactionWidth = 30;
     static constexpr int kAccountWidth = 20;
     static constexpr int kAssociateWidth = 25;
+    static constexpr int kDateOffset = 50;
     static inline const QString kFileName = QStringLiteral("/AssociateJournal.txt");
 
     QString Transaction; // the customer's name

@@ -3,6 +3,8 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "invoicing/frmReprint.h"
+#include "printing/frmSales.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 
@@ -17,6 +19,8 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
+    session.AddScreen(ScreenId::frmReprint, std::make_unique<frmReprint>(session));
+    session.AddScreen(ScreenId::frmSales, std::make_unique<frmSales>(session));
     return {setup, account, services, dialer};
 }
 
