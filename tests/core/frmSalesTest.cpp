@@ -24,10 +24,10 @@ AssociateJournalRecord sale(const QString& name, const QString& number, QDate da
     r.Account = number;
     r.JournalDate = date;
     r.Associate = associate;
-    r.SubTotal = sub;
-    r.Tax = tax;
-    r.Discount = discount;
-    r.Gross = sub + tax;
+    r.SubTotal = Money::fromTenThousandths(sub);
+    r.Tax = Money::fromTenThousandths(tax);
+    r.Discount = Money::fromTenThousandths(discount);
+    r.Gross = Money::fromTenThousandths(sub + tax);
     return r;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Money.h"
+
 #include <QDate>
 #include <QString>
 #include <QVector>
@@ -10,7 +12,7 @@ class DiskRoutines;
 class Record;
 
 // One sale in /AssociateJournal.txt, 115 bytes: written when an invoice is posted in the Associate
-// Sales style, read back by the sales report. Amounts are counts of ten-thousandths.
+// Sales style, read back by the sales report.
 struct AssociateJournalRecord {
     static constexpr int kLength = 115;
     static constexpr int kTransactionWidth = 30;
@@ -23,10 +25,10 @@ struct AssociateJournalRecord {
     QString Account;     // the invoice number
     QDate JournalDate;   // the appointment's date
     QString Associate;   // the Point of Service the job was assigned to
-    qint64 SubTotal = 0;
-    qint64 Tax = 0;      // both taxes together
-    qint64 Discount = 0; // posting always writes 0
-    qint64 Gross = 0;    // the grand total
+    Money SubTotal;
+    Money Tax;      // both taxes together
+    Money Discount; // posting always writes 0
+    Money Gross;    // the grand total
 
     Record toRecord() const;
     static AssociateJournalRecord fromRecord(const Record& record);

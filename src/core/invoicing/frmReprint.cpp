@@ -1,9 +1,9 @@
 #include "frmReprint.h"
 
 #include "InvoiceImage.h"
-#include "catalogue/CurrencyText.h"
 #include "shell/GridSort.h"
 #include "shell/Session.h"
+#include "store/Money.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
 
@@ -95,8 +95,8 @@ QString frmReprint::SortKey(QDate date) {
 }
 
 QString frmReprint::MoneyText(const QString& field) {
-    const auto amount = currencytext::parseCurrency(field);
-    return amount ? currencytext::format(*amount) : field;
+    const auto amount = Money::fromDisplayText(field);
+    return amount ? FormatMoney(*amount) : field;
 }
 
 void frmReprint::Form_Activate() {

@@ -1,6 +1,5 @@
 #include "frmSales.h"
 
-#include "catalogue/CurrencyText.h"
 #include "invoicing/AssociateJournal.h"
 #include "shell/Session.h"
 #include "util/VbText.h"
@@ -23,7 +22,7 @@ frmSales::frmSales(Session& session)
     for (int c = 0; c < 7; ++c) fgSales.SetTextMatrix(0, c, QString::fromLatin1(headings[c]));
     fgSales.colWidths = {2900, 1200, 1500, 1300, 1300, 1200, 1300};
 
-    for (int i = 0; i < 4; ++i) lblTotal[i].caption = currencytext::format(0);
+    for (int i = 0; i < 4; ++i) lblTotal[i].caption = FormatMoney(Money());
     const char* const income[] = {"&L M", "M&TD", "&YTD", "&Eternity"};
     const char* const incomeTips[] = {"Last Month", "Month to Date", "Year to Date", "Every Sale since 1990"};
     for (int i = 0; i < 4; ++i) {
@@ -129,7 +128,7 @@ void frmSales::cmdSales_Click(int index) {
 void frmSales::LoadGrid() {
     const QVector<AssociateJournalRecord> records = ReadAssociateJournal(m_session.disk);
     fgSales.SetRows(static_cast<int>(records.size()) + 1);
-    m_totals = {};
+    m_totals = Totals{};
     // The first entry of the list stands for every associate.
     const bool filtered = cboAssociates.listIndex > 0;
     const QString associate = vbTrim(cboAssociates.text);
@@ -140,10 +139,10 @@ void frmSales::LoadGrid() {
         fgSales.SetTextMatrix(row, kTransaction, vbTrim(r.Transaction));
         fgSales.SetTextMatrix(row, kDate, r.JournalDate.toString(u"M/d/yyyy"));
         fgSales.SetTextMatrix(row, kAccount, vbTrim(r.Account));
-        fgSales.SetTextMatrix(row, kSubTotal, currencytext::format(r.SubTotal));
-        fgSales.SetTextMatrix(row, kDiscount, currencytext::format(r.Discount));
-        fgSales.SetTextMatrix(row, kTax, currencytext::format(r.Tax));
-        fgSales.SetTextMatrix(row, kNet, currencytext::format(r.Gross - r.Discount));
+        fgSales.SetTextMatrix(row, kSubTotal, FormatMoney(r.SubTotal));
+        fgSales.SetTextMatrix(row, kDiscount, FormatMoney(r.Discount));
+        fgSales.SetTextMatrix(row, kTax, FormatMoney(r.Tax));
+        fgSales.SetTextMatrix(row, kNet, FormatMoney(r.Gross - r.Discount));
         m_totals.discount += r.Discount;
         m_totals.tax += r.Tax;
         m_totals.subTotal += r.SubTotal;
@@ -153,10 +152,10 @@ void frmSales::LoadGrid() {
     fgSales.SetRows(row);
     fgSales.row = row > 1 ? 1 : 0;
     fgSales.topRow = 1;
-    lblTotal[0].caption = currencytext::format(m_totals.subTotal);
-    lblTotal[1].caption = currencytext::format(m_totals.discount);
-    lblTotal[2].caption = currencytext::format(m_totals.tax);
-    lblTotal[3].caption = currencytext::format(m_totals.gross - m_totals.discount);
+    lblTotal[0].caption = FormatMoney(m_totals.subTotal);
+    lblTotal[1].caption = FormatMoney(m_totals.discount);
+    lblTotal[2].caption = FormatMoney(m_totals.tax);
+    lblTotal[3].caption = FormatMoney(m_totals.gross - m_totals.discount);
 }
 
 } // namespace ostrel

@@ -4,6 +4,7 @@
 #include "controls/Controls.h"
 #include "controls/Screen.h"
 #include "platform/ControlRegistry.h"
+#include "store/Money.h"
 
 #include <QDate>
 
@@ -42,9 +43,9 @@ public:
     QDate StartDate() const { return m_start; }
     QDate EndDate() const { return m_end; }
 
-    // The running totals of the last load, in ten-thousandths.
+    // The running totals of the last load.
     struct Totals {
-        qint64 discount = 0, tax = 0, subTotal = 0, gross = 0;
+        Money discount, tax, subTotal, gross;
     };
     const Totals& totals() const { return m_totals; }
 

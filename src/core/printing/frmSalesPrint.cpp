@@ -2,7 +2,6 @@
 
 #include "LetterheadRoutines.h"
 #include "PrintFailure.h"
-#include "catalogue/CurrencyText.h"
 #include "shell/Session.h"
 
 namespace ostrel {
@@ -99,7 +98,7 @@ void frmSales::PrintReport() {
         p.Line(kRuleLeft, p.CurrentY, kRuleRight, p.CurrentY);
         p.Print();
         p.Print();
-        const std::pair<const char*, qint64> lines[] = {
+        const std::pair<const char*, Money> lines[] = {
             {"Goods Sub Total", m_totals.subTotal},
             {"Discounts Taken", m_totals.discount},
             {"Tax Collected", m_totals.tax},
@@ -108,7 +107,7 @@ void frmSales::PrintReport() {
         for (const auto& [label, amount] : lines) {
             m_printer.SetPosition(4.5, 0);
             p.PrintContinue(QString::fromLatin1(label));
-            const QString value = currencytext::format(amount);
+            const QString value = FormatMoney(amount);
             p.CurrentX = rightEdge[3] - p.TextWidth(value);
             p.Print(value);
         }
