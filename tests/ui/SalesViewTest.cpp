@@ -87,7 +87,10 @@ TEST_F(SalesViewTest, EveryControlHasItsWidgetAndTheMonthIsLoaded) {
 }
 
 TEST_F(SalesViewTest, PickingTheSecondAssociateAndLoadingShowsTheirSales) {
-    find<QComboBox>("cboAssociates")->setCurrentIndex(1);
+    // As a person picks the entry from the list.
+    auto* combo = find<QComboBox>("cboAssociates");
+    combo->setCurrentIndex(1);
+    Q_EMIT combo->activated(1);
     test::settle();
     find<QPushButton>("cmdSales(1)")->click();
     test::settle();

@@ -35,10 +35,10 @@ frmReprint::frmReprint(Session& session)
     setHeadings(fgReceivables, {"Invoice Number", "Account Number", "Account Name", "Invoice Date", "Amount", "Sort"});
     fgReceivables.toolTip = QStringLiteral("Displays all Completed Invoices");
     // The sort key is for the program only.
-    fgReceivables.colWidths = {1500, 1500, 3000, 1300, 1300, 0};
+    fgReceivables.colWidths = {1800, 1800, 3000, 1400, 1400, 0};
     setHeadings(fgItems, {"Units", "Description", "Date", "Unit Cost", "Extension"});
     fgItems.toolTip = QStringLiteral("Body of the Selected Invoice");
-    fgItems.colWidths = {700, 3600, 1200, 1200, 1200};
+    fgItems.colWidths = {900, 3600, 1200, 1200, 1200};
 
     fraInvoice.caption = QStringLiteral("Invoice Details");
     fraInvoice.visible = false;

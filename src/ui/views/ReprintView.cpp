@@ -24,8 +24,9 @@ namespace ostrel::ui {
 
 namespace {
 
-QTableWidget* grid(const char* name, QWidget* parent, int stretchColumn) {
+QTableWidget* grid(const char* name, QWidget* parent, int columns, int stretchColumn) {
     auto* t = named<QTableWidget>(QLatin1String(name), parent);
+    t->setColumnCount(columns);
     t->setAlternatingRowColors(true);
     t->setSelectionBehavior(QAbstractItemView::SelectRows);
     t->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -100,7 +101,7 @@ QWidget* ReprintView::listPanel() {
     auto* panel = new QWidget(this);
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(grid("fgReceivables", panel, frmReprint::kAccountName), 1);
+    row->addWidget(grid("fgReceivables", panel, 6, frmReprint::kAccountName), 1);
 
     auto* side = new QVBoxLayout;
     side->addWidget(sortFrame());
@@ -165,7 +166,7 @@ QWidget* ReprintView::detailFrame() {
     v->addLayout(top);
 
     auto* middle = new QHBoxLayout;
-    middle->addWidget(grid("fgItems", frame, 1), 3);
+    middle->addWidget(grid("fgItems", frame, 5, 1), 3);
 
     auto* totals = new QGridLayout;
     int r = 0;
@@ -180,8 +181,10 @@ QWidget* ReprintView::detailFrame() {
     };
     addTotal(heading(QStringLiteral("Item Sub Total"), frame), 0);
     auto* tax1 = named<QLabel>(element("Label1", 1), frame);
+    tax1->setFont(heading(QString(), frame)->font());
     addTotal(tax1, 1);
     auto* tax2 = named<QLabel>(element("Label1", 22), frame);
+    tax2->setFont(tax1->font());
     addTotal(tax2, 9);
     addTotal(heading(QStringLiteral("Shipping Charge"), frame), 4);
     addTotal(heading(QStringLiteral("Handling"), frame), 5);

@@ -66,6 +66,7 @@ SalesView::SalesView(Session& session, frmSales& screen) : ScreenView(session.pl
     main->addLayout(filters);
 
     auto* table = named<QTableWidget>(QStringLiteral("fgSales"), this);
+    table->setColumnCount(7);
     table->setAlternatingRowColors(true);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
