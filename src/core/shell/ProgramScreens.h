@@ -7,6 +7,8 @@ class frmSetup;
 class frmNewCustomer;
 class frmServices;
 class frmDialer;
+class frmDisplay;
+class frmContract;
 
 // The screens of this version beyond the welcome screen and the menu.
 struct ProgramScreens {
@@ -14,6 +16,8 @@ struct ProgramScreens {
     frmNewCustomer& account;
     frmServices& services;
     frmDialer& dialer;
+    frmDisplay& display;
+    frmContract& contract;
 };
 
 // Brings every screen into the session and connects the account screen to the dialer. Runs before
