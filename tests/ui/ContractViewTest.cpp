@@ -101,12 +101,13 @@ TEST_F(ContractViewTest, BuildShowsTheTemplateAsFormattedTextAndCreateStoresTheC
     saveShot(*view, "contract-template");
 
     auto* service = find<QLineEdit>("txtService");
-    service->setText("Furnace Tune-up");
+    focusIn(service);
+    typeText(service, "Furnace Tune-up");
     auto* price = find<QLineEdit>("txtPrice");
     focusIn(price);
     settle();
     EXPECT_EQ("", price->text());
-    price->setText("89");
+    typeText(price, "89");
     focusOut(price);
     settle();
     EXPECT_EQ("$89.00", price->text());

@@ -2,6 +2,7 @@
 
 #include "ContractMerge.h"
 #include "controls/Controls.h"
+#include "controls/PickerControls.h"
 #include "controls/Screen.h"
 #include "platform/ControlRegistry.h"
 

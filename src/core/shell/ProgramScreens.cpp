@@ -5,6 +5,7 @@
 #include "catalogue/frmServices.h"
 #include "contracts/frmContract.h"
 #include "scheduling/frmDisplay.h"
+#include "scheduling/frmWorkSchedules.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 
@@ -21,7 +22,8 @@ ProgramScreens AddProgramScreens(Session& session) {
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
     auto& display = session.AddScreen(ScreenId::frmDisplay, std::make_unique<frmDisplay>(session));
     auto& contract = session.AddScreen(ScreenId::frmContract, std::make_unique<frmContract>(session));
-    return {setup, account, services, dialer, display, contract};
+    auto& workSchedules = session.AddScreen(ScreenId::frmWorkSchedules, std::make_unique<frmWorkSchedules>(session));
+    return {setup, account, services, dialer, display, contract, workSchedules};
 }
 
 } // namespace ostrel

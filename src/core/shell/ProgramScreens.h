@@ -9,6 +9,7 @@ class frmServices;
 class frmDialer;
 class frmDisplay;
 class frmContract;
+class frmWorkSchedules;
 
 // The screens of this version beyond the welcome screen and the menu.
 struct ProgramScreens {
@@ -18,6 +19,7 @@ struct ProgramScreens {
     frmDialer& dialer;
     frmDisplay& display;
     frmContract& contract;
+    frmWorkSchedules& workSchedules;
 };
 
 // Brings every screen into the session and connects the account screen to the dialer. Runs before

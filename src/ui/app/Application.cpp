@@ -9,6 +9,7 @@
 #include "views/SetupView.h"
 #include "views/SplashView.h"
 #include "views/StartupView.h"
+#include "views/WorkSchedulesView.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -36,6 +37,7 @@ Application::Application(AppInfo app)
     m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
     m_display = std::make_unique<DisplayView>(*m_session, screens.display);
     m_contract = std::make_unique<ContractView>(*m_session, screens.contract);
+    m_workSchedules = std::make_unique<WorkSchedulesView>(*m_session, screens.workSchedules);
 }
 
 Application::~Application() = default;

@@ -22,6 +22,7 @@ class ServicesView;
 class DialerView;
 class DisplayView;
 class ContractView;
+class WorkSchedulesView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
 class Application {
@@ -56,6 +57,7 @@ private:
     std::unique_ptr<DialerView> m_dialer;
     std::unique_ptr<DisplayView> m_display;
     std::unique_ptr<ContractView> m_contract;
+    std::unique_ptr<WorkSchedulesView> m_workSchedules;
 };
 
 // The resources of the view library (pictures); a static library must ask for them.
