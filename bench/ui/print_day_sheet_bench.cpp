@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
     SystemClock clock;
     bench::QuietDialogs dialogs; // answers Yes to "Did the Schedule Print Correctly?"
     const QString pdf = dir.filePath(QStringLiteral("daysheet.pdf"));
-    QtPrintDialogs printDialogs(QtPrintDialogs::PdfFileChooser(pdf));
+    ui::QtPrintDialogs printDialogs(ui::QtPrintDialogs::PdfFileChooser(pdf));
     PrinterRoutines printer(printDialogs, dialogs, disk, settings, clock);
 
     Grid day;
