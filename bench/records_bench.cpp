@@ -10,6 +10,7 @@
 #include "invoicing/frmReprint.h"
 #include "printing/frmSales.h"
 #include "shell/Session.h"
+#include "shell/frmStartup.h"
 
 #include <QDir>
 #include <QFile>

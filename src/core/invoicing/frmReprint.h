@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Controls.h"
+#include "controls/PickerControls.h"
 #include "controls/Screen.h"
 #include "platform/ControlRegistry.h"
 #include "printing/PrinterRoutines.h"

@@ -2,6 +2,7 @@
 
 #include "PrinterRoutines.h"
 #include "controls/Controls.h"
+#include "controls/PickerControls.h"
 #include "controls/Screen.h"
 #include "platform/ControlRegistry.h"
 #include "store/Money.h"

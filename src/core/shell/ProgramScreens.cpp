@@ -3,8 +3,11 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "contracts/frmContract.h"
 #include "invoicing/frmReprint.h"
 #include "printing/frmSales.h"
+#include "scheduling/frmDisplay.h"
+#include "scheduling/frmWorkSchedules.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 
@@ -21,7 +24,10 @@ ProgramScreens AddProgramScreens(Session& session) {
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
     session.AddScreen(ScreenId::frmReprint, std::make_unique<frmReprint>(session));
     session.AddScreen(ScreenId::frmSales, std::make_unique<frmSales>(session));
-    return {setup, account, services, dialer};
+    auto& display = session.AddScreen(ScreenId::frmDisplay, std::make_unique<frmDisplay>(session));
+    auto& contract = session.AddScreen(ScreenId::frmContract, std::make_unique<frmContract>(session));
+    auto& workSchedules = session.AddScreen(ScreenId::frmWorkSchedules, std::make_unique<frmWorkSchedules>(session));
+    return {setup, account, services, dialer, display, contract, workSchedules};
 }
 
 } // namespace ostrel
