@@ -7,6 +7,9 @@ class frmSetup;
 class frmNewCustomer;
 class frmServices;
 class frmDialer;
+class frmDisplay;
+class frmContract;
+class frmWorkSchedules;
 
 // The screens of this version beyond the welcome screen and the menu.
 struct ProgramScreens {
@@ -14,6 +17,9 @@ struct ProgramScreens {
     frmNewCustomer& account;
     frmServices& services;
     frmDialer& dialer;
+    frmDisplay& display;
+    frmContract& contract;
+    frmWorkSchedules& workSchedules;
 };
 
 // Brings every screen into the session and connects the account screen to the dialer. Runs before
