@@ -211,8 +211,8 @@ SaveKind journalPosting() {
         r.Account = QStringLiteral("2026%1").arg(i, 4, 10, QLatin1Char('0'));
         r.JournalDate = kToday;
         r.Associate = QStringLiteral("Crew One");
-        r.SubTotal = 1000000 + i;
-        r.Gross = 1072500 + i;
+        r.SubTotal = Money::fromTenThousandths(1000000 + i);
+        r.Gross = Money::fromTenThousandths(1072500 + i);
         return r;
     };
     k.prepare = [record](DiskRoutines& disk) {
