@@ -1,10 +1,13 @@
 #include "frmBlockTestFixture.h"
 
+#include <QFile>
+
 using namespace ostrel;
 using ostrel::test::BlockScreen;
 
 TEST_F(BlockScreen, TheLegacyShopHasOneBlockedDayBeforeTheYearEnds) {
     OSTREL_REQUIRE_LEGACY_FIXTURE();
+    QFile::remove(t.full("/ServiceAreas.txt")); // the shop brings its own
     t.copyTree(ostrel::test::legacyFixture());
     session.LoadServiceAreas();
     frm.Form_Activate();
@@ -19,6 +22,7 @@ TEST_F(BlockScreen, TheLegacyShopHasOneBlockedDayBeforeTheYearEnds) {
 
 TEST_F(BlockScreen, RestoringTheLegacyHolidayAsksAboutItAndDeletesItsFile) {
     OSTREL_REQUIRE_LEGACY_FIXTURE();
+    QFile::remove(t.full("/ServiceAreas.txt")); // the shop brings its own
     t.copyTree(ostrel::test::legacyFixture());
     session.LoadServiceAreas();
     frm.Form_Activate();

@@ -3,6 +3,7 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "scheduling/frmAppointments.h"
 #include "scheduling/frmBlock.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
@@ -19,7 +20,9 @@ ProgramScreens AddProgramScreens(Session& session) {
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
     auto& block = session.AddScreen(ScreenId::frmBlock, std::make_unique<frmBlock>(session));
-    return {setup, account, services, dialer, block};
+    auto& appointments =
+        session.AddScreen(ScreenId::frmAppointments, std::make_unique<frmAppointments>(session));
+    return {setup, account, services, dialer, block, appointments};
 }
 
 } // namespace ostrel

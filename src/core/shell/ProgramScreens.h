@@ -8,6 +8,7 @@ class frmNewCustomer;
 class frmServices;
 class frmDialer;
 class frmBlock;
+class frmAppointments;
 
 // The screens of this version beyond the welcome screen and the menu.
 struct ProgramScreens {
@@ -16,6 +17,7 @@ struct ProgramScreens {
     frmServices& services;
     frmDialer& dialer;
     frmBlock& block;
+    frmAppointments& appointments;
 };
 
 // Brings every screen into the session and connects the account screen to the dialer. Runs before

@@ -54,9 +54,10 @@ Session::StartResult Session::Main() {
     const int count = pointOfServiceNames.UpperBound();
     Guarded([&] { PurgeLastYear(disk, today(), count); });
     Guarded([&] { PurgePastDays(disk, today(), today().dayOfYear(), count); });
-    // 9. The main menu, loaded hidden, then the catalogue.
+    // 9. The main menu, loaded hidden, then the catalogue and the appointment routines.
     RegisterScreen(ScreenId::frmStartup, *m_startup);
     LoadScreen(ScreenId::frmServices);
+    LoadScreen(ScreenId::frmAppointments);
     return StartResult::Running;
 }
 

@@ -1,6 +1,7 @@
 #include "Application.h"
 
 #include "shell/ProgramScreens.h"
+#include "views/AppointmentsView.h"
 #include "views/BlockView.h"
 #include "views/DialerView.h"
 #include "views/NewCustomerView.h"
@@ -34,6 +35,7 @@ Application::Application(AppInfo app)
     m_services = std::make_unique<ServicesView>(*m_session, screens.services);
     m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
     m_block = std::make_unique<BlockView>(*m_session, screens.block);
+    m_appointments = std::make_unique<AppointmentsView>(*m_session, screens.appointments);
 }
 
 Application::~Application() = default;

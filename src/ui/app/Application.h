@@ -21,6 +21,7 @@ class NewCustomerView;
 class ServicesView;
 class DialerView;
 class BlockView;
+class AppointmentsView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
 class Application {
@@ -54,6 +55,7 @@ private:
     std::unique_ptr<ServicesView> m_services;
     std::unique_ptr<DialerView> m_dialer;
     std::unique_ptr<BlockView> m_block;
+    std::unique_ptr<AppointmentsView> m_appointments;
 };
 
 // The resources of the view library (pictures); a static library must ask for them.
