@@ -3,6 +3,9 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "contracts/frmContract.h"
+#include "scheduling/frmDisplay.h"
+#include "scheduling/frmWorkSchedules.h"
 #include "scheduling/frmAppointments.h"
 #include "scheduling/frmBlock.h"
 #include "setup/frmSetup.h"
@@ -19,10 +22,13 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
+    auto& display = session.AddScreen(ScreenId::frmDisplay, std::make_unique<frmDisplay>(session));
+    auto& contract = session.AddScreen(ScreenId::frmContract, std::make_unique<frmContract>(session));
+    auto& workSchedules = session.AddScreen(ScreenId::frmWorkSchedules, std::make_unique<frmWorkSchedules>(session));
     auto& block = session.AddScreen(ScreenId::frmBlock, std::make_unique<frmBlock>(session));
     auto& appointments =
         session.AddScreen(ScreenId::frmAppointments, std::make_unique<frmAppointments>(session));
-    return {setup, account, services, dialer, block, appointments};
+    return {setup, account, services, dialer, display, contract, workSchedules, block, appointments};
 }
 
 } // namespace ostrel

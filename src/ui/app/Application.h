@@ -20,6 +20,9 @@ class SetupView;
 class NewCustomerView;
 class ServicesView;
 class DialerView;
+class DisplayView;
+class ContractView;
+class WorkSchedulesView;
 class BlockView;
 class AppointmentsView;
 
@@ -54,6 +57,9 @@ private:
     std::unique_ptr<NewCustomerView> m_account;
     std::unique_ptr<ServicesView> m_services;
     std::unique_ptr<DialerView> m_dialer;
+    std::unique_ptr<DisplayView> m_display;
+    std::unique_ptr<ContractView> m_contract;
+    std::unique_ptr<WorkSchedulesView> m_workSchedules;
     std::unique_ptr<BlockView> m_block;
     std::unique_ptr<AppointmentsView> m_appointments;
 };
