@@ -52,7 +52,10 @@ Application::Application(AppInfo app)
     m_appointments = std::make_unique<AppointmentsView>(*m_session, screens.appointments);
 }
 
-Application::~Application() = default;
+Application::~Application() {
+    // The alarm switch reads this session's settings; it must not outlive them.
+    Binder::setAlarmSwitch({});
+}
 
 bool Application::start() { return m_session->Main() == Session::StartResult::Running; }
 
