@@ -3,6 +3,7 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "invoicing/frmInvoice.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 
@@ -17,7 +18,10 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
-    return {setup, account, services, dialer};
+    // The slips hand over through /FileToPrint.txt and open this screen.
+    auto& invoice =
+        session.AddScreen(ScreenId::frmInvoice, std::make_unique<frmInvoice>(session, session.catalogueLists));
+    return {setup, account, services, dialer, invoice};
 }
 
 } // namespace ostrel

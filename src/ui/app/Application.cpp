@@ -2,6 +2,7 @@
 
 #include "shell/ProgramScreens.h"
 #include "views/DialerView.h"
+#include "views/InvoiceView.h"
 #include "views/NewCustomerView.h"
 #include "views/ServicesView.h"
 #include "views/SetupView.h"
@@ -32,6 +33,7 @@ Application::Application(AppInfo app)
     m_account = std::make_unique<NewCustomerView>(*m_session, screens.account);
     m_services = std::make_unique<ServicesView>(*m_session, screens.services);
     m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
+    m_invoice = std::make_unique<InvoiceView>(*m_session, screens.invoice);
 }
 
 Application::~Application() = default;
