@@ -279,14 +279,107 @@ TEST_F(Posting, WithNoSlipAtHandTheAnswerNoRewritesTheSlipNamedNothing) {
     line("1", "Tune Up", "$45.00", "$45.00", "False");
     post(vbNo);
     const QByteArray expected = "\"Invoiced\"\r\n"
-                                "#1899-12-30#\r\n"
+                                "#2026-11-20#\r\n" // the slip date the customer fixture set
                                 "\"\"\r\n"
                                 "0\r\n0\r\n0\r\n"
                                 "\"Dana Whitfield\"\r\n\"88 Elm St\"\r\n\"\"\r\n\"Springfield\"\r\n\"IL\"\r\n"
                                 "\"62701\"\r\n\"Dana Whitfield\"\r\n\"88 Elm St\"\r\n"
                                 "\r\n";
-    (void)expected;
-    EXPECT_TRUE(t.isFile("/Appointments/.txt"));
+    EXPECT_EQ(t.readBytes("/Appointments/.txt"), expected);
+}
+
+namespace {
+
+AppointmentSlip sampleSlip() {
+    AppointmentSlip slip;
+    slip.Status = slipstatus::Scheduled;
+    slip.SlipDate = QDate(2026, 11, 20);
+    slip.SlipName = QStringLiteral("1 - 324-3");
+    slip.SlipPointOfService = 1;
+    slip.Slots = 4;
+    slip.SlipStartRow = 12;
+    slip.Customer = {"2175550199", "Dana Whitfield", "88 Elm St", "", "Springfield", "IL", "62701", "217-555-0199"};
+    slip.SlipComment = QStringLiteral("Side door, dog in yard");
+    return slip;
+}
+
+} // namespace
+
+struct SlipHandedOver : Posting {
+    void handOver(bool withServices = true) {
+        WriteSlip(t.disk(), sampleSlip());
+        if (withServices)
+            WriteServicesFile(t.disk(), "1 - 324-3", {{"Tune Up", Money::fromTenThousandths(450000), 4}});
+        WriteSoldItemsFile(t.disk(), "1 - 324-3", {{"2", "Filter", "$12.50"}});
+        WriteFileToPrint(t.disk(), "1 - 324-3");
+        frm.cboAssignments.Clear();
+        frm.cboAssignments.AddItem(QStringLiteral("Crew One "));
+        frm.Hide();
+        frm.Show();
+    }
+};
+
+TEST_F(SlipHandedOver, TheBodyIsFilledFromTheSlipAndTheServicesTaxFlagIsCarriedToTheSoldItems) {
+    session.settings.program.ckServices = 1;
+    session.settings.program.ckSalesItems = 0;
+    handOver();
+    EXPECT_EQ(frm.LineCount, 2);
+    EXPECT_EQ(frm.lblAcctNo.caption, "2175550199");
+    EXPECT_EQ(frm.lblAcct.caption, "2175550199");
+    EXPECT_EQ(frm.lblCustomer[0].caption, "Dana Whitfield");
+    EXPECT_EQ(frm.lblCustomer[6].caption, "Dana Whitfield");
+    EXPECT_EQ(frm.lblCustomer[12].caption, "217-555-0199");
+    EXPECT_EQ(frm.txtAppointment.text, "1 - 324-3");
+    EXPECT_EQ(frm.AssignedTo, "Crew One");
+    EXPECT_EQ(frm.cboAssignments.listIndex, 0);
+    EXPECT_EQ(frm.SlipComment, "Side door, dog in yard");
+    const QStringList service = {"1", "Tune Up", "11/20/2026", "$45.00", "$45.00", "True"};
+    const QStringList sold = {"2", "Filter", "", "$12.50", "$25.00", "True"};
+    for (int c = 0; c < 6; ++c) {
+        EXPECT_EQ(cell(1, c), service[c]) << c;
+        EXPECT_EQ(cell(2, c), sold[c]) << c;
+    }
+    EXPECT_EQ(frm.txtTotal.text, "$70.00");
+
+    // Without a services file the flag stays as the last invoice left it.
+    session.settings.program.ckServices = 0;
+    t.disk().DeleteDataFile("/Services/1 - 324-3.txt");
+    frm.Hide();
+    frm.Show();
+    EXPECT_EQ(frm.LineCount, 1);
+    EXPECT_EQ(cell(1, 5), "True");
+}
+
+TEST_F(SlipHandedOver, AHandOverWhoseSlipIsGoneOpensAnEmptyScreen) {
+    WriteFileToPrint(t.disk(), "9 - 1-1");
+    frm.Hide();
+    frm.Show();
+    EXPECT_EQ(frm.SlipName, "9 - 1-1");
+    EXPECT_EQ(frm.LineCount, 0);
+}
+
+TEST_F(SlipHandedOver, TheAnswerYesDeletesTheSlipsThreeFilesAndTheHandOver) {
+    handOver();
+    post(vbYes);
+    EXPECT_FALSE(t.isFile("/Appointments/1 - 324-3.txt"));
+    EXPECT_FALSE(t.isFile("/Services/1 - 324-3.txt"));
+    EXPECT_FALSE(t.isFile("/SoldItems/1 - 324-3.txt"));
+    EXPECT_FALSE(t.isFile("/FileToPrint.txt"));
+}
+
+TEST_F(SlipHandedOver, TheAnswerNoRewritesTheSlipAsInvoicedWithItsCustomerFieldsOnePlaceEarlier) {
+    handOver();
+    post(vbNo);
+    const QByteArray expected = "\"Invoiced\"\r\n"
+                                "#2026-11-20#\r\n"
+                                "\"1 - 324-3\"\r\n"
+                                "1\r\n4\r\n12\r\n"
+                                "\"Dana Whitfield\"\r\n\"88 Elm St\"\r\n\"\"\r\n\"Springfield\"\r\n\"IL\"\r\n"
+                                "\"62701\"\r\n\"Dana Whitfield\"\r\n\"88 Elm St\"\r\n"
+                                "Side door, dog in yard\r\n";
+    EXPECT_EQ(t.readBytes("/Appointments/1 - 324-3.txt"), expected);
+    EXPECT_TRUE(t.isFile("/FileToPrint.txt"));
+    EXPECT_TRUE(t.isFile("/Services/1 - 324-3.txt"));
 }
 
 TEST_F(Posting, NoToThePrintQuestionAndNoToTheRetryPostsNothingButStillAsksAboutTheSlip) {
