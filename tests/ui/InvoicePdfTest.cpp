@@ -19,7 +19,7 @@
 
 using namespace ostrel;
 using namespace ostrel::ui;
-using namespace ostrel::test::pdf;
+using namespace ostrel::test;
 using ostrel::test::FakePlatform;
 using ostrel::test::TestDataRoot;
 

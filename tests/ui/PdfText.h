@@ -1,7 +1,7 @@
 #pragma once
 
-// Reading a printed PDF back with the poppler tools: each word with its box in points, 1 point
-// being 20 twips of the page surface.
+// Printed jobs read back with the poppler tools: the words of a PDF with their boxes in points
+// (1 point is 20 twips), and pictures of its pages.
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -15,7 +15,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrel::test::pdf {
+namespace ostrel::test {
 
 inline constexpr double kTolerancePoints = 0.5;
 
@@ -110,5 +110,4 @@ inline QImage renderPage(const QString& pdf) {
         EXPECT_NEAR(w_.yMin, (yTwips) / 20.0, kTolerancePoints) << w_.text.toStdString();                    \
     } while (0)
 
-
-} // namespace ostrel::test::pdf
+} // namespace ostrel::test

@@ -31,7 +31,7 @@ using namespace ostrel;
 using namespace ostrel::ui;
 using ostrel::test::FakePlatform;
 using ostrel::test::TestDataRoot;
-using namespace ostrel::test::pdf;
+using namespace ostrel::test;
 
 namespace {
 

@@ -3,7 +3,10 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "contracts/frmContract.h"
 #include "invoicing/frmInvoice.h"
+#include "scheduling/frmDisplay.h"
+#include "scheduling/frmWorkSchedules.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 
@@ -18,10 +21,13 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
+    auto& display = session.AddScreen(ScreenId::frmDisplay, std::make_unique<frmDisplay>(session));
+    auto& contract = session.AddScreen(ScreenId::frmContract, std::make_unique<frmContract>(session));
+    auto& workSchedules = session.AddScreen(ScreenId::frmWorkSchedules, std::make_unique<frmWorkSchedules>(session));
     // The slips hand over through /FileToPrint.txt and open this screen.
     auto& invoice =
         session.AddScreen(ScreenId::frmInvoice, std::make_unique<frmInvoice>(session, session.catalogueLists));
-    return {setup, account, services, dialer, invoice};
+    return {setup, account, services, dialer, display, contract, workSchedules, invoice};
 }
 
 } // namespace ostrel
