@@ -163,9 +163,9 @@ TEST_F(InvoiceViewTest, ARightClickOnALineOffersItsDeletion) {
     open();
     press("cmdInvoice(0)");
     menu("mnuServices");
-    auto* services = find<QComboBox>("cboDescription(0)");
-    services->setCurrentIndex(1);
-    Q_EMIT services->activated(1);
+    auto* serviceList = find<QComboBox>("cboDescription(0)");
+    serviceList->setCurrentIndex(1);
+    Q_EMIT serviceList->activated(1);
     test::settle();
     press("cmdPost(0)");
     ASSERT_EQ(cell(1, 1), "Full Service");

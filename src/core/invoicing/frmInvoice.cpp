@@ -57,6 +57,7 @@ frmInvoice::frmInvoice(Session& session, CatalogueLists& lists)
     cmdExit.caption = QStringLiteral("Return to &Menu");
     cmdRedo.caption = QStringLiteral("&ReDo");
     cmdResetDate.caption = QStringLiteral("Clear Date");
+    UpDown1.caption = QStringLiteral("Move Up");
     UpDown1.toolTip = QStringLiteral("Move Items up or down in grid");
     mnupopup.caption = QStringLiteral("popup");
     mnupopup.visible = false;
@@ -115,6 +116,7 @@ frmInvoice::frmInvoice(Session& session, CatalogueLists& lists)
 
     for (Frame* f : {&fraItems, &fraCItems, &fraLabor, &fraServices, &fraPrintReady})
         f->visible = false;
+    ClearTotals();
 
     // Names, in the order of the screen.
     auto& r = controls;

@@ -42,7 +42,10 @@ Application::Application(AppInfo app)
     m_invoice = std::make_unique<InvoiceView>(*m_session, screens.invoice);
 }
 
-Application::~Application() = default;
+Application::~Application() {
+    // The bell's switch reads this session's settings: it goes with them.
+    Binder::setAlarmSwitch({});
+}
 
 bool Application::start() { return m_session->Main() == Session::StartResult::Running; }
 
