@@ -60,7 +60,7 @@ void generate(const QString& root) {
         r.Account = QString::number(20260001 + i);
         r.JournalDate = QDate(2026, 1, 1 + i % 28);
         r.Associate = QStringLiteral("Crew One");
-        r.SubTotal = r.Gross = 1000000;
+        r.SubTotal = r.Gross = Money::fromTenThousandths(1000000);
         return r.toRecord();
     });
     writeRecords(root + "/TaxRecords.txt", 30000, TaxRecord::kLength, [](int i) {

@@ -196,10 +196,10 @@ TEST_F(Posting, ShopRepairStyleWritesNoAssociateJournalAndAssociateSalesStyleWri
     EXPECT_EQ(journal[0].Account.trimmed(), "20260002");
     EXPECT_EQ(journal[0].JournalDate, QDate(2026, 11, 20));
     EXPECT_EQ(journal[0].Associate.trimmed(), "Crew One");
-    EXPECT_EQ(journal[0].SubTotal, 199900);
-    EXPECT_EQ(journal[0].Tax, 16492);
-    EXPECT_EQ(journal[0].Discount, 0);
-    EXPECT_EQ(journal[0].Gross, 216392);
+    EXPECT_EQ(journal[0].SubTotal, Money::fromTenThousandths(199900));
+    EXPECT_EQ(journal[0].Tax, Money::fromTenThousandths(16492));
+    EXPECT_EQ(journal[0].Discount, Money());
+    EXPECT_EQ(journal[0].Gross, Money::fromTenThousandths(216392));
 }
 
 TEST_F(Posting, SoldItemsAreJournalledOncePerCatalogueListingWithTheQuantity) {

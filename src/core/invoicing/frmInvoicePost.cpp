@@ -182,10 +182,10 @@ void frmInvoice::PostInvoice() {
         entry.Account = invoiceNo;
         entry.JournalDate = SlipDate;
         entry.Associate = AssignedTo;
-        entry.SubTotal = SubTotal.tenThousandths();
-        entry.Tax = (Tax1 + Tax2).tenThousandths();
-        entry.Discount = 0;
-        entry.Gross = GrandTotal.tenThousandths();
+        entry.SubTotal = SubTotal;
+        entry.Tax = Tax1 + Tax2;
+        entry.Discount = Money();
+        entry.Gross = GrandTotal;
         AddJournalRecord(disk, entry);
     }
 
