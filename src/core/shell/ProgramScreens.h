@@ -10,6 +10,7 @@ class frmDialer;
 class frmDisplay;
 class frmContract;
 class frmWorkSchedules;
+class frmInvoice;
 class frmBlock;
 class frmAppointments;
 
@@ -22,6 +23,7 @@ struct ProgramScreens {
     frmDisplay& display;
     frmContract& contract;
     frmWorkSchedules& workSchedules;
+    frmInvoice& invoice;
     frmBlock& block;
     frmAppointments& appointments;
 };

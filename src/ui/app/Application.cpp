@@ -8,6 +8,7 @@
 #include "views/BlockView.h"
 #include "views/DialerView.h"
 #include "views/DisplayView.h"
+#include "views/InvoiceView.h"
 #include "views/NewCustomerView.h"
 #include "views/ReprintView.h"
 #include "views/SalesView.h"
@@ -48,12 +49,13 @@ Application::Application(AppInfo app)
         m_reprint = std::make_unique<ReprintView>(*m_session, *reprint);
     if (auto* sales = m_session->ScreenAs<frmSales>(ScreenId::frmSales))
         m_sales = std::make_unique<SalesView>(*m_session, *sales);
+    m_invoice = std::make_unique<InvoiceView>(*m_session, screens.invoice);
     m_block = std::make_unique<BlockView>(*m_session, screens.block);
     m_appointments = std::make_unique<AppointmentsView>(*m_session, screens.appointments);
 }
 
 Application::~Application() {
-    // The alarm switch reads this session's settings; it must not outlive them.
+    // The bell's switch reads this session's settings: it goes with them.
     Binder::setAlarmSwitch({});
 }
 

@@ -25,6 +25,7 @@ class ContractView;
 class WorkSchedulesView;
 class ReprintView;
 class SalesView;
+class InvoiceView;
 class BlockView;
 class AppointmentsView;
 
@@ -64,6 +65,7 @@ private:
     std::unique_ptr<WorkSchedulesView> m_workSchedules;
     std::unique_ptr<ReprintView> m_reprint;
     std::unique_ptr<SalesView> m_sales;
+    std::unique_ptr<InvoiceView> m_invoice;
     std::unique_ptr<BlockView> m_block;
     std::unique_ptr<AppointmentsView> m_appointments;
 };
