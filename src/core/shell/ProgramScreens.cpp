@@ -5,6 +5,7 @@
 #include "catalogue/frmServices.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
+#include "workorders/frmTerms.h"
 
 namespace ostrel {
 
@@ -17,7 +18,8 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
-    return {setup, account, services, dialer};
+    auto& terms = session.AddScreen(ScreenId::frmTerms, std::make_unique<frmTerms>(session));
+    return {setup, account, services, dialer, terms};
 }
 
 } // namespace ostrel

@@ -7,6 +7,7 @@
 #include "views/SetupView.h"
 #include "views/SplashView.h"
 #include "views/StartupView.h"
+#include "views/TermsView.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -32,6 +33,7 @@ Application::Application(AppInfo app)
     m_account = std::make_unique<NewCustomerView>(*m_session, screens.account);
     m_services = std::make_unique<ServicesView>(*m_session, screens.services);
     m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
+    m_terms = std::make_unique<TermsView>(*m_session, screens.terms);
 }
 
 Application::~Application() = default;
