@@ -6,6 +6,7 @@
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 #include "workorders/frmTerms.h"
+#include "workorders/frmWorkOrders.h"
 
 namespace ostrel {
 
@@ -19,7 +20,12 @@ ProgramScreens AddProgramScreens(Session& session) {
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
     auto& terms = session.AddScreen(ScreenId::frmTerms, std::make_unique<frmTerms>(session));
-    return {setup, account, services, dialer, terms};
+    auto& workOrders = session.AddScreen(
+        ScreenId::frmWorkOrders,
+        std::make_unique<frmWorkOrders>(session, terms, session.catalogueLists.frmWorkOrders.fgAddServices));
+    // A custom disclaimer found as the terms load at start-up is the one work orders print.
+    terms.customDisclaimerFound = [&workOrders] { workOrders.SelectDisclaimer(1); };
+    return {setup, account, services, dialer, terms, workOrders};
 }
 
 } // namespace ostrel

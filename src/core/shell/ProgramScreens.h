@@ -8,6 +8,7 @@ class frmNewCustomer;
 class frmServices;
 class frmDialer;
 class frmTerms;
+class frmWorkOrders;
 
 // The screens of this version beyond the welcome screen and the menu.
 struct ProgramScreens {
@@ -16,6 +17,7 @@ struct ProgramScreens {
     frmServices& services;
     frmDialer& dialer;
     frmTerms& terms;
+    frmWorkOrders& workOrders;
 };
 
 // Brings every screen into the session and connects the account screen to the dialer. Runs before

@@ -8,6 +8,7 @@
 #include "views/SplashView.h"
 #include "views/StartupView.h"
 #include "views/TermsView.h"
+#include "views/WorkOrdersView.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -34,6 +35,7 @@ Application::Application(AppInfo app)
     m_services = std::make_unique<ServicesView>(*m_session, screens.services);
     m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
     m_terms = std::make_unique<TermsView>(*m_session, screens.terms);
+    m_workOrders = std::make_unique<WorkOrdersView>(*m_session, screens.workOrders);
 }
 
 Application::~Application() = default;
