@@ -97,7 +97,7 @@ TEST_F(WorkOrderPdf, TheSummaryReportLaysOutItsFillInsAndLines) {
 }
 
 TEST_F(WorkOrderPdf, ThePickListSkipsTheZeroRowAndAlignsQuantities) {
-    content.picklist = {{"2", "Furnace-filter"}, {"0", "Thermocouple"}, {"12", "Wire-nuts"}};
+    content.picklist = {{"7", "Furnace-filter"}, {"0", "Thermocouple"}, {"15", "Wire-nuts"}};
     start();
     PrintPicklist(printer, content);
     savePages(pdf, "pick-list");
@@ -105,8 +105,8 @@ TEST_F(WorkOrderPdf, ThePickListSkipsTheZeroRowAndAlignsQuantities) {
     ASSERT_EQ(text.pages.size(), 1);
     EXPECT_EQ(text.count("Thermocouple"), 0);
     EXPECT_NEAR(text.word("Furnace-filter").xMin, 3600 / 20.0, kTolerancePoints);
-    EXPECT_NEAR(text.word("2").xMax, 1296 / 20.0, 1.0);
-    EXPECT_NEAR(text.word("12").xMax, 1296 / 20.0, 1.0);
+    EXPECT_NEAR(text.word("7").xMax, 1296 / 20.0, 1.0);
+    EXPECT_NEAR(text.word("15").xMax, 1296 / 20.0, 1.0);
     EXPECT_NEAR(text.word("Wire-nuts").yMin - text.word("Furnace-filter").yMin, 11.5, 1.0);
     EXPECT_NEAR(text.word("Picklist").xMin, 7200 / 20.0, kTolerancePoints);
     EXPECT_NEAR(text.word("QTY").xMin, 864 / 20.0, kTolerancePoints);

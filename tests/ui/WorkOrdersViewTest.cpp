@@ -125,10 +125,10 @@ TEST_F(WorkOrdersViewTest, ARightClickAddsTheServiceTheLeftClickChose) {
     ostrel::test::settle();
     auto* add = find<QTableWidget>("fgAddServices");
     ASSERT_TRUE(add->isVisible());
-    add->setCurrentCell(0, 0);
-    ostrel::test::settle();
     const QPoint at = add->visualItemRect(add->item(0, 0)).center();
-    emit add->customContextMenuRequested(at);
+    ostrel::test::click(add->viewport(), at);
+    ostrel::test::settle();
+    Q_EMIT add->customContextMenuRequested(at);
     ostrel::test::settle();
     auto* services = find<QTableWidget>("fgServices");
     ASSERT_EQ(services->rowCount(), 3);
