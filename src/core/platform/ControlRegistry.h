@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Controls.h"
+#include "controls/PickerControls.h"
 
 #include <QString>
 #include <QStringList>

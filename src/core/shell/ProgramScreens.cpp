@@ -3,6 +3,11 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "contracts/frmContract.h"
+#include "invoicing/frmReprint.h"
+#include "printing/frmSales.h"
+#include "scheduling/frmDisplay.h"
+#include "scheduling/frmWorkSchedules.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 #include "workorders/frmTerms.h"
@@ -19,13 +24,18 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
+    session.AddScreen(ScreenId::frmReprint, std::make_unique<frmReprint>(session));
+    session.AddScreen(ScreenId::frmSales, std::make_unique<frmSales>(session));
+    auto& display = session.AddScreen(ScreenId::frmDisplay, std::make_unique<frmDisplay>(session));
+    auto& contract = session.AddScreen(ScreenId::frmContract, std::make_unique<frmContract>(session));
+    auto& workSchedules = session.AddScreen(ScreenId::frmWorkSchedules, std::make_unique<frmWorkSchedules>(session));
     auto& terms = session.AddScreen(ScreenId::frmTerms, std::make_unique<frmTerms>(session));
     auto& workOrders = session.AddScreen(
         ScreenId::frmWorkOrders,
         std::make_unique<frmWorkOrders>(session, terms, session.catalogueLists.frmWorkOrders.fgAddServices));
     // A custom disclaimer found as the terms load at start-up is the one work orders print.
     terms.customDisclaimerFound = [&workOrders] { workOrders.SelectDisclaimer(1); };
-    return {setup, account, services, dialer, terms, workOrders};
+    return {setup, account, services, dialer, display, contract, workSchedules, terms, workOrders};
 }
 
 } // namespace ostrel

@@ -7,6 +7,9 @@ class frmSetup;
 class frmNewCustomer;
 class frmServices;
 class frmDialer;
+class frmDisplay;
+class frmContract;
+class frmWorkSchedules;
 class frmTerms;
 class frmWorkOrders;
 
@@ -16,6 +19,9 @@ struct ProgramScreens {
     frmNewCustomer& account;
     frmServices& services;
     frmDialer& dialer;
+    frmDisplay& display;
+    frmContract& contract;
+    frmWorkSchedules& workSchedules;
     frmTerms& terms;
     frmWorkOrders& workOrders;
 };

@@ -1,12 +1,19 @@
 #include "Application.h"
 
+#include "invoicing/frmReprint.h"
+#include "printing/frmSales.h"
 #include "shell/ProgramScreens.h"
+#include "views/ContractView.h"
 #include "views/DialerView.h"
+#include "views/DisplayView.h"
 #include "views/NewCustomerView.h"
+#include "views/ReprintView.h"
+#include "views/SalesView.h"
 #include "views/ServicesView.h"
 #include "views/SetupView.h"
 #include "views/SplashView.h"
 #include "views/StartupView.h"
+#include "views/WorkSchedulesView.h"
 #include "views/TermsView.h"
 #include "views/WorkOrdersView.h"
 
@@ -34,6 +41,13 @@ Application::Application(AppInfo app)
     m_account = std::make_unique<NewCustomerView>(*m_session, screens.account);
     m_services = std::make_unique<ServicesView>(*m_session, screens.services);
     m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
+    m_display = std::make_unique<DisplayView>(*m_session, screens.display);
+    m_contract = std::make_unique<ContractView>(*m_session, screens.contract);
+    m_workSchedules = std::make_unique<WorkSchedulesView>(*m_session, screens.workSchedules);
+    if (auto* reprint = m_session->ScreenAs<frmReprint>(ScreenId::frmReprint))
+        m_reprint = std::make_unique<ReprintView>(*m_session, *reprint);
+    if (auto* sales = m_session->ScreenAs<frmSales>(ScreenId::frmSales))
+        m_sales = std::make_unique<SalesView>(*m_session, *sales);
     m_terms = std::make_unique<TermsView>(*m_session, screens.terms);
     m_workOrders = std::make_unique<WorkOrdersView>(*m_session, screens.workOrders);
 }

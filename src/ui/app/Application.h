@@ -20,6 +20,11 @@ class SetupView;
 class NewCustomerView;
 class ServicesView;
 class DialerView;
+class DisplayView;
+class ContractView;
+class WorkSchedulesView;
+class ReprintView;
+class SalesView;
 class TermsView;
 class WorkOrdersView;
 
@@ -54,6 +59,11 @@ private:
     std::unique_ptr<NewCustomerView> m_account;
     std::unique_ptr<ServicesView> m_services;
     std::unique_ptr<DialerView> m_dialer;
+    std::unique_ptr<DisplayView> m_display;
+    std::unique_ptr<ContractView> m_contract;
+    std::unique_ptr<WorkSchedulesView> m_workSchedules;
+    std::unique_ptr<ReprintView> m_reprint;
+    std::unique_ptr<SalesView> m_sales;
     std::unique_ptr<TermsView> m_terms;
     std::unique_ptr<WorkOrdersView> m_workOrders;
 };
