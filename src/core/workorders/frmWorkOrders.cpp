@@ -104,7 +104,7 @@ frmWorkOrders::frmWorkOrders(Session& session, frmTerms& terms, Grid& addService
     mnuOverview.caption = QStringLiteral("Toggle Overview");
     for (int i : kOffUntilLoaded)
         cmdWorkOrders[i].enabled = false;
-    for (int i : {4, 5, 12})
+    for (int i : {4, 12})
         cmdWorkOrders[i].enabled = false;
 
     controls.add(QStringLiteral("cmdWorkOrders"), cmdWorkOrders);

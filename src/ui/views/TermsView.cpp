@@ -53,7 +53,7 @@ QGroupBox* customBlock(int box, const char* checkName, std::initializer_list<int
     QLabel* title = heading(2 + box, group);
     column->addWidget(title);
     auto* edit = named<QPlainTextEdit>(element("Text1", box), group);
-    edit->setMinimumHeight(130);
+    edit->setMinimumHeight(90);
     title->setBuddy(edit);
     column->addWidget(edit, 1);
     column->addWidget(named<QCheckBox>(QLatin1String(checkName), group));
