@@ -3,6 +3,7 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "scheduling/frmCreate.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 
@@ -17,7 +18,8 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
-    return {setup, account, services, dialer};
+    auto& create = session.AddScreen(ScreenId::frmCreate, std::make_unique<frmCreate>(session));
+    return {setup, account, services, dialer, create};
 }
 
 } // namespace ostrel

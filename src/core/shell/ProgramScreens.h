@@ -7,6 +7,7 @@ class frmSetup;
 class frmNewCustomer;
 class frmServices;
 class frmDialer;
+class frmCreate;
 
 // The screens of this version beyond the welcome screen and the menu.
 struct ProgramScreens {
@@ -14,6 +15,7 @@ struct ProgramScreens {
     frmNewCustomer& account;
     frmServices& services;
     frmDialer& dialer;
+    frmCreate& create;
 };
 
 // Brings every screen into the session and connects the account screen to the dialer. Runs before

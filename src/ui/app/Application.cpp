@@ -1,6 +1,7 @@
 #include "Application.h"
 
 #include "shell/ProgramScreens.h"
+#include "views/CreateView.h"
 #include "views/DialerView.h"
 #include "views/NewCustomerView.h"
 #include "views/ServicesView.h"
@@ -32,6 +33,7 @@ Application::Application(AppInfo app)
     m_account = std::make_unique<NewCustomerView>(*m_session, screens.account);
     m_services = std::make_unique<ServicesView>(*m_session, screens.services);
     m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
+    m_create = std::make_unique<CreateView>(*m_session, screens.create);
 }
 
 Application::~Application() = default;

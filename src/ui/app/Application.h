@@ -20,6 +20,7 @@ class SetupView;
 class NewCustomerView;
 class ServicesView;
 class DialerView;
+class CreateView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
 class Application {
@@ -52,6 +53,7 @@ private:
     std::unique_ptr<NewCustomerView> m_account;
     std::unique_ptr<ServicesView> m_services;
     std::unique_ptr<DialerView> m_dialer;
+    std::unique_ptr<CreateView> m_create;
 };
 
 // The resources of the view library (pictures); a static library must ask for them.

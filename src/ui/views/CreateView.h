@@ -1,0 +1,29 @@
+#pragma once
+
+#include "binder/ScreenView.h"
+
+class QTableWidget;
+
+namespace ostrel {
+class Session;
+class frmCreate;
+struct Grid;
+} // namespace ostrel
+
+namespace ostrel::ui {
+
+// The appointment creation screen.
+class CreateView : public ScreenView {
+    Q_OBJECT
+public:
+    CreateView(Session& session, frmCreate& screen);
+
+private:
+    void wire();
+    // A right mouse click on a row of a grid: the row becomes the current one, then the handler.
+    void onRightClick(Grid& model, void (frmCreate::*handler)());
+
+    frmCreate& m_screen;
+};
+
+} // namespace ostrel::ui
