@@ -5,6 +5,7 @@
 #include "catalogue/CatalogueLists.h"
 #include "controls/Screen.h"
 #include "platform/Platform.h"
+#include "scheduling/AppointmentSlip.h"
 #include "setup/PointOfServiceNames.h"
 #include "setup/SetupSettings.h"
 #include "store/DataRoot.h"
@@ -106,6 +107,8 @@ public:
     CustomerBuffers customer;
     // The catalogue's lists on the other screens, filled only by the catalogue loads.
     CatalogueLists catalogueLists;
+    // The slip numbering and the SlipId in force, read by appointment creation and the invoice.
+    SlipCounter slipCounter;
     // Opens the speed dialer for a person and number; unset while no dialer is part of the program.
     std::function<void(const QString& name, const QString& number)> dial;
 
