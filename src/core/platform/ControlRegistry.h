@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Controls.h"
+#include "controls/PickerControls.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,7 +17,7 @@ namespace ostrel {
 class ControlRegistry {
 public:
     using Entry = std::variant<Label*, CommandButton*, TextBox*, CheckBox*, OptionButton*, Frame*, Image*,
-                               MenuItem*, ListControl*, Grid*>;
+                               MenuItem*, ListControl*, Grid*, DatePicker*, UpDown*>;
 
     template <typename T> T& add(const QString& name, T& control) {
         control.name = name;

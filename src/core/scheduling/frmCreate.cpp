@@ -80,7 +80,7 @@ void RemoveGridRow(Grid& grid, int row) {
 }
 
 frmCreate::frmCreate(Session& session)
-    : Screen(QStringLiteral("frmCreate")), lstServices(session.catalogueLists.frmCreate.lstServices),
+    : Screen(QStringLiteral("frmCreate")), Counter(session.slipCounter), lstServices(session.catalogueLists.frmCreate.lstServices),
       cboServicesCost(session.catalogueLists.frmCreate.cboServicesCost),
       cboTime(session.catalogueLists.frmCreate.cboTime), cboItems(session.catalogueLists.frmCreate.cboItems),
       cboItemPrices(session.catalogueLists.frmCreate.cboItemPrices),

@@ -3,6 +3,7 @@
 #include "AppointmentSlip.h"
 #include "catalogue/CatalogueLists.h"
 #include "controls/Controls.h"
+#include "controls/PickerControls.h"
 #include "controls/Screen.h"
 #include "platform/ControlRegistry.h"
 #include "store/Money.h"
@@ -82,7 +83,7 @@ public:
 
     // Screen state, kept while the screen lives.
     qint16 PointOfService = 0; // 1-based; the selected entry of lstAssignments
-    SlipCounter Counter;       // the SlipId in force and the next running number
+    SlipCounter& Counter;      // the session's: the SlipId in force, read by the invoice too
     bool EventScheduled = false;
     qint16 Slots = 0; // only ever added to: the screen's creation is what starts it at 0
     quint8 StartRow = 0;

@@ -2,6 +2,7 @@
 
 #include "CheckBoxBinding.h"
 #include "ComboBoxBinding.h"
+#include "DatePickerBinding.h"
 #include "CommandButtonBinding.h"
 #include "FrameBinding.h"
 #include "GridBinding.h"
@@ -12,12 +13,17 @@
 #include "MenuItemBinding.h"
 #include "MultiLineBinding.h"
 #include "OptionButtonBinding.h"
+#include "UpDownBinding.h"
 #include "WindowBinding.h"
 #include "platform/Dialogs.h"
 #include "platform/StoreErrorBox.h"
 #include "store/StoreError.h"
 
+#include <QAbstractSlider>
 #include <QAction>
+#include <QCalendarWidget>
+#include <QDateEdit>
+#include <QSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -135,6 +141,19 @@ void Binder::bind(QTableWidget* w, Grid& m) {
     add<GridBinding>(w, m);
 }
 
+void Binder::bind(QDateEdit* w, DatePicker& m) {
+    add<DatePickerBinding, QDateEdit>(w, m);
+}
+void Binder::bind(QCalendarWidget* w, DatePicker& m) {
+    add<DatePickerBinding, QCalendarWidget>(w, m);
+}
+void Binder::bind(QAbstractSlider* w, UpDown& m) {
+    add<UpDownBinding, QAbstractSlider>(w, m);
+}
+void Binder::bind(QSpinBox* w, UpDown& m) {
+    add<UpDownBinding, QSpinBox>(w, m);
+}
+
 void Binder::bindWindow(QWidget* window, Frame& form) {
     std::erase_if(m_bindings, [&](const auto& b) { return &b->model() == &form; });
     // Screens are loaded hidden: a window not yet shown starts its form hidden, whatever the
@@ -194,6 +213,12 @@ bool Binder::bindEntry(const ControlRegistry::Entry& entry) {
                     if (auto* w = qobject_cast<QComboBox*>(found)) return bind(w, *m), true;
                 } else if constexpr (std::is_same_v<M, Grid>) {
                     if (auto* w = qobject_cast<QTableWidget*>(found)) return bind(w, *m), true;
+                } else if constexpr (std::is_same_v<M, DatePicker>) {
+                    if (auto* w = qobject_cast<QDateEdit*>(found)) return bind(w, *m), true;
+                    if (auto* w = qobject_cast<QCalendarWidget*>(found)) return bind(w, *m), true;
+                } else if constexpr (std::is_same_v<M, UpDown>) {
+                    if (auto* w = qobject_cast<QAbstractSlider*>(found)) return bind(w, *m), true;
+                    if (auto* w = qobject_cast<QSpinBox*>(found)) return bind(w, *m), true;
                 }
                 return false;
             },
@@ -253,6 +278,10 @@ void Binder::onKeyDown(Control& m, std::function<void(int&, int)> h) {
 }
 void Binder::onKeyUp(Control& m, std::function<void(int&, int)> h) {
     if (auto* x = handlersFor(m)) x->keyUp = std::move(h);
+}
+
+void Binder::onCloseUp(Control& m, std::function<void()> h) {
+    if (auto* x = handlersFor(m)) x->closeUp = std::move(h);
 }
 
 void Binder::run(const std::function<void()>& handler) {

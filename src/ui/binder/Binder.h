@@ -13,7 +13,11 @@
 #include <vector>
 
 class QAbstractButton;
+class QAbstractSlider;
 class QAction;
+class QCalendarWidget;
+class QDateEdit;
+class QSpinBox;
 class QCheckBox;
 class QComboBox;
 class QFrame;
@@ -73,6 +77,10 @@ public:
     void bind(QListWidget* widget, ListControl& model);
     void bind(QComboBox* widget, ListControl& model);
     void bind(QTableWidget* widget, Grid& model);
+    void bind(QDateEdit* widget, DatePicker& model);
+    void bind(QCalendarWidget* widget, DatePicker& model);
+    void bind(QAbstractSlider* widget, UpDown& model);
+    void bind(QSpinBox* widget, UpDown& model);
     // The screen's own window: caption is its title, visible shows and hides it.
     void bindWindow(QWidget* window, Frame& form);
 
@@ -100,6 +108,7 @@ public:
     void onKeyPress(Control& model, std::function<void(int& keyAscii)> handler);
     void onKeyDown(Control& model, std::function<void(int& keyCode, int shift)> handler);
     void onKeyUp(Control& model, std::function<void(int& keyCode, int shift)> handler);
+    void onCloseUp(Control& model, std::function<void()> handler);
 
     template <typename T> void onClick(ControlArray<T>& models, std::function<void(int index)> handler) {
         for (auto& [i, m] : models)

@@ -26,6 +26,7 @@ struct ControlHandlers {
     std::function<void(int& keyAscii)> keyPress;
     std::function<void(int& keyCode, int shift)> keyDown;
     std::function<void(int& keyCode, int shift)> keyUp;
+    std::function<void()> closeUp; // a date picker's drop-down closed on a date
 };
 
 // One widget joined to its control model. The kind-specific part pushes the model's state into the

@@ -10,6 +10,7 @@ namespace ostrel::ui {
 
 LineEditBinding::LineEditBinding(Binder& binder, QLineEdit* edit, TextBox& model)
     : ControlBinding(binder, model, edit), m_model(model) {
+    watchMouseClicks(); // a box may act on a click (one that counts up, say)
     connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
         if (!pushing()) edited(text);
     });

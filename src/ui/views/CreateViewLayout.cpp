@@ -95,8 +95,9 @@ QWidget* choicesColumn(QWidget* window) {
     v->addWidget(services, 1);
     v->addWidget(button(11, column));
     // The parallel lists of cost and time stay out of sight, as on the original form.
-    for (const char* n : {"cboServicesCost", "cboTime"}) {
+    for (auto [n, name] : {std::pair{"cboServicesCost", "Service Costs"}, {"cboTime", "Service Times"}}) {
         auto* hidden = named<QComboBox>(QLatin1String(n), column);
+        hidden->setAccessibleName(QLatin1String(name));
         hidden->hide();
         v->addWidget(hidden);
     }
