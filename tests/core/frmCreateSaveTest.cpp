@@ -1,5 +1,7 @@
 #include "frmCreateTestFixture.h"
 
+#include <QDir>
+
 using namespace ostrel;
 using ostrel::test::CountingScreen;
 using ostrel::test::CreateScreenFixture;
@@ -69,11 +71,22 @@ TEST_F(CreateSave, TheScheduledSaveWritesInItsOrderAfterTheServicesFileOfTheClic
     buildAndPlace();
     ASSERT_TRUE(t.isFile("/Services/1 - 322-1.txt"));
     // A SoldItems folder that cannot take the file stops the save after the slip and the counter.
+    ASSERT_TRUE(QDir(t.full("/SoldItems")).removeRecursively());
     t.writeBytes("/SoldItems", "not a folder");
     EXPECT_ANY_THROW(frm.cmdService_Click(frmCreate::kSchedule));
     EXPECT_TRUE(t.isFile("/Appointments/1 - 322-1.txt"));
     EXPECT_EQ(t.readBytes("/SlipCounter.txt"), "\"322\",2\r\n");
     EXPECT_FALSE(t.isFile("/2026/DaySchedules1/322.txt"));
+}
+
+TEST_F(CreateSave, TheDayFileIsTheLastWriteOfAScheduledSave) {
+    buildAndPlace();
+    // A day that cannot be written: everything before it is on disk.
+    t.makeDir("/2026/DaySchedules1/322.txt");
+    EXPECT_ANY_THROW(frm.cmdService_Click(frmCreate::kSchedule));
+    EXPECT_TRUE(t.isFile("/Appointments/1 - 322-1.txt"));
+    EXPECT_EQ(t.readBytes("/SlipCounter.txt"), "\"322\",2\r\n");
+    EXPECT_TRUE(t.isFile("/SoldItems/1 - 322-1.txt"));
 }
 
 TEST_F(CreateSave, EmptyCommentsAreStoredAsNoCustomerInstructions) {
