@@ -142,10 +142,7 @@ inline void AddService(const QString& name) {
 inline void AddSalesItem(const QString& category, const QString& item, const QString& quantity) {
     road::chooseInList(ProgramWindows::child<QListWidget>("frmCreate", "lstCategories"), category);
     road::chooseInCombo(ProgramWindows::child<QComboBox>("frmCreate", "cboItems"), item);
-    auto* box = ProgramWindows::child<QLineEdit>("frmCreate", "txtQuantity");
-    ASSERT_NE(box, nullptr);
-    test::typeText(box, quantity);
-    test::settle();
+    road::type(ProgramWindows::child<QLineEdit>("frmCreate", "txtQuantity"), quantity);
     road::press("frmCreate", QStringLiteral("cmdService(10)"));
     road::press("frmCreate", QStringLiteral("cmdService(9)"));
 }
