@@ -3,6 +3,7 @@
 #include "store/DiskRoutines.h"
 #include "store/StoreError.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace ostrel {
@@ -85,6 +86,19 @@ QString servicesFileName(const QString& slipName) {
 
 QString soldItemsFileName(const QString& slipName) {
     return QStringLiteral("/SoldItems/") + slipName + QStringLiteral(".txt");
+}
+
+QStringList ListSlipFiles(DiskRoutines& disk) {
+    QStringList names;
+    const auto entries = disk.root().entries(QStringLiteral("/Appointments"));
+    for (const DataRoot::Listed& e : entries) {
+        if (e.kind != DataRoot::Kind::File) continue;
+        if (!e.name.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) continue;
+        names << e.name.chopped(4);
+    }
+    std::sort(names.begin(), names.end(),
+              [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+    return names;
 }
 
 AppointmentSlip ReadSlipHeader(DiskRoutines& disk, const QString& slipName) {

@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <optional>
@@ -45,6 +46,10 @@ struct AppointmentSlip {
 
     bool operator==(const AppointmentSlip&) const = default;
 };
+
+// The SlipNames of the slip files in /Appointments ("2 - 319-4" for "2 - 319-4.txt"), in the order
+// of their names without regard to case. The list screens read the slips in this order.
+QStringList ListSlipFiles(DiskRoutines& disk);
 
 // The slip as the lists read it: the comment by the field read, so it stops at its first comma or
 // line end. A slip with too few statements throws StoreError naming the file.

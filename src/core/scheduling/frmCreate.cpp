@@ -236,13 +236,8 @@ void frmCreate::Form_Activate() {
 
 void frmCreate::LoadWorkorders() {
     lstWorkorders.Clear();
-    const QString folder = QStringLiteral("/Appointments");
-    if (!m_session.disk.DirectoryExists(folder)) return;
-    for (const QString& file : m_session.root.list(folder)) {
-        if (!file.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) continue;
-        if (!m_session.disk.PathIsFile(folder + u'/' + file)) continue;
-        lstWorkorders.AddItem(file.chopped(4));
-    }
+    for (const QString& name : ListSlipFiles(m_session.disk))
+        lstWorkorders.AddItem(name);
 }
 
 void frmCreate::ResetAppointment() {

@@ -3,7 +3,10 @@
 #include "Session.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
+#include "contracts/frmContract.h"
 #include "scheduling/frmCreate.h"
+#include "scheduling/frmDisplay.h"
+#include "scheduling/frmWorkSchedules.h"
 #include "setup/frmSetup.h"
 #include "telephony/frmDialer.h"
 
@@ -18,8 +21,11 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
+    auto& display = session.AddScreen(ScreenId::frmDisplay, std::make_unique<frmDisplay>(session));
+    auto& contract = session.AddScreen(ScreenId::frmContract, std::make_unique<frmContract>(session));
+    auto& workSchedules = session.AddScreen(ScreenId::frmWorkSchedules, std::make_unique<frmWorkSchedules>(session));
     auto& create = session.AddScreen(ScreenId::frmCreate, std::make_unique<frmCreate>(session));
-    return {setup, account, services, dialer, create};
+    return {setup, account, services, dialer, display, contract, workSchedules, create};
 }
 
 } // namespace ostrel

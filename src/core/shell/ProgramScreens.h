@@ -7,6 +7,9 @@ class frmSetup;
 class frmNewCustomer;
 class frmServices;
 class frmDialer;
+class frmDisplay;
+class frmContract;
+class frmWorkSchedules;
 class frmCreate;
 
 // The screens of this version beyond the welcome screen and the menu.
@@ -15,6 +18,9 @@ struct ProgramScreens {
     frmNewCustomer& account;
     frmServices& services;
     frmDialer& dialer;
+    frmDisplay& display;
+    frmContract& contract;
+    frmWorkSchedules& workSchedules;
     frmCreate& create;
 };
 

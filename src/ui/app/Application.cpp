@@ -1,13 +1,16 @@
 #include "Application.h"
 
 #include "shell/ProgramScreens.h"
+#include "views/ContractView.h"
 #include "views/CreateView.h"
 #include "views/DialerView.h"
+#include "views/DisplayView.h"
 #include "views/NewCustomerView.h"
 #include "views/ServicesView.h"
 #include "views/SetupView.h"
 #include "views/SplashView.h"
 #include "views/StartupView.h"
+#include "views/WorkSchedulesView.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -33,6 +36,9 @@ Application::Application(AppInfo app)
     m_account = std::make_unique<NewCustomerView>(*m_session, screens.account);
     m_services = std::make_unique<ServicesView>(*m_session, screens.services);
     m_dialer = std::make_unique<DialerView>(*m_session, screens.dialer);
+    m_display = std::make_unique<DisplayView>(*m_session, screens.display);
+    m_contract = std::make_unique<ContractView>(*m_session, screens.contract);
+    m_workSchedules = std::make_unique<WorkSchedulesView>(*m_session, screens.workSchedules);
     m_create = std::make_unique<CreateView>(*m_session, screens.create);
 }
 

@@ -20,6 +20,9 @@ class SetupView;
 class NewCustomerView;
 class ServicesView;
 class DialerView;
+class DisplayView;
+class ContractView;
+class WorkSchedulesView;
 class CreateView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
@@ -53,6 +56,9 @@ private:
     std::unique_ptr<NewCustomerView> m_account;
     std::unique_ptr<ServicesView> m_services;
     std::unique_ptr<DialerView> m_dialer;
+    std::unique_ptr<DisplayView> m_display;
+    std::unique_ptr<ContractView> m_contract;
+    std::unique_ptr<WorkSchedulesView> m_workSchedules;
     std::unique_ptr<CreateView> m_create;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ControlBinding.h"
+#include "controls/PickerControls.h"
 
 class QCalendarWidget;
 class QDateEdit;

@@ -25,8 +25,19 @@ void QtPageSurface::PrepareLetterPrinter(QPrinter& printer) {
     printer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Point);
 }
 
+QString QtPageSurface::fontFamily(const QString& name) {
+    // Names documents spell in their own way, and the face each means.
+    static const struct {
+        const char* spelled;
+        const char* face;
+    } kAliases[] = {{"Ariel", "Arial"}};
+    for (const auto& a : kAliases)
+        if (name.compare(QLatin1String(a.spelled), Qt::CaseInsensitive) == 0) return QString::fromLatin1(a.face);
+    return name;
+}
+
 QFont QtPageSurface::toQFont(const PrintFont& font) {
-    QFont f(font.name);
+    QFont f(fontFamily(font.name));
     f.setPointSizeF(font.size > 0 ? font.size : 10);
     f.setBold(font.bold);
     f.setUnderline(font.underline);

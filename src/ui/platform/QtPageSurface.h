@@ -28,6 +28,9 @@ public:
     static void PrepareLetterPrinter(QPrinter& printer);
     // The font a PrintFont names; "Arial" resolves through fontconfig to a metric twin.
     static QFont toQFont(const PrintFont& font);
+    // The family a font name stands for: the name itself, or for a misspelling that documents
+    // print with ("Ariel") the face it means.
+    static QString fontFamily(const QString& name);
 
     // The printer stays the caller's and must outlive the surface.
     explicit QtPageSurface(QPrinter& printer);
