@@ -129,7 +129,7 @@ int main() {
     // An appointment of two services, placed at row 10 of an empty day.
     for (int i : {0, 3}) {
         frm.lstServices.SetListIndex(i);
-        frm.lstServices.SetSelected(i, true);
+        frm.SetServiceChecked(i, true);
         frm.lstServices_Click();
         frm.cmdService_Click(frmCreate::kAddService);
     }

@@ -221,7 +221,7 @@ TEST_F(CreateSchedule, ADecemberBookingForJanuaryUsesThisYearsFileOfThatDayNumbe
 TEST_F(CreateSchedule, PaintingThatRunsPastTheDayStopsWithNotEnoughTime) {
     open();
     // Inspection is checked but Tune Up is the current entry: the grid takes Tune Up, the count one slot.
-    frm.lstServices.SetSelected(2, true);
+    frm.SetServiceChecked(2, true);
     frm.lstServices.SetListIndex(0);
     frm.lstServices_Click();
     frm.cmdService_Click(frmCreate::kAddService);

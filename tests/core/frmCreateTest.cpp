@@ -196,7 +196,7 @@ TEST_F(CreateScreen, AddingACheckedServiceFillsTheGridAndCountsItsTimeAndCost) {
     EXPECT_EQ(frm.fgServices.Rows(), 3);
     EXPECT_EQ(frm.Slots, 4);
     EXPECT_EQ(frm.TotalCost, Money::fromWhole(45));
-    EXPECT_FALSE(frm.lstServices.Selected(0));
+    EXPECT_FALSE(frm.ServiceChecked(0));
     EXPECT_TRUE(frm.fraServices.visible);
     EXPECT_FALSE(frm.cmdService[11].enabled);
     // The Point of Service is fixed from the first service on.
@@ -224,7 +224,7 @@ TEST_F(CreateScreen, AddServiceWithNothingCheckedAsksForTheCheckbox) {
 
 TEST_F(CreateScreen, TheGridTakesTheCurrentEntryButTheCountTakesTheFirstChecked) {
     open();
-    frm.lstServices.SetSelected(0, true); // Tune Up checked
+    frm.SetServiceChecked(0, true); // Tune Up checked
     frm.lstServices.SetListIndex(2);      // Inspection current
     frm.lstServices_Click();
     frm.cmdService_Click(11);

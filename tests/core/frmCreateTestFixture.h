@@ -103,7 +103,7 @@ struct CreateScreenFixture : ::testing::Test {
     // Checks the service at `index` and presses "Add Service to Appointment", as a user does.
     void addService(int index) {
         frm.lstServices.SetListIndex(index);
-        frm.lstServices.SetSelected(index, true);
+        frm.SetServiceChecked(index, true);
         frm.lstServices_Click();
         frm.cmdService_Click(frmCreate::kAddService);
     }

@@ -121,7 +121,7 @@ TEST_F(CreateViews, ABuildThroughTheWidgetsStepByStep) {
     EXPECT_FALSE(cmd(11)->isEnabled());
 
     tick("Tune Up");
-    EXPECT_TRUE(frm.lstServices.Selected(0));
+    EXPECT_TRUE(frm.ServiceChecked(0));
     EXPECT_TRUE(cmd(11)->isEnabled());
     press(11);
     tick("Inspection");

@@ -15,8 +15,6 @@ void ListControl::AddItem(const QString& item, int index) {
     }
     items.insert(index, item);
     itemData.insert(index, 0);
-    selectedItems.resize(items.size() - 1, false);
-    selectedItems.insert(index, false);
     if (listIndex >= index) ++listIndex;
 }
 
@@ -24,7 +22,6 @@ void ListControl::RemoveItem(int index) {
     if (index < 0 || index >= items.size()) throw std::out_of_range("list index outside the list");
     items.removeAt(index);
     itemData.removeAt(index);
-    if (index < selectedItems.size()) selectedItems.removeAt(index);
     if (listIndex == index) {
         listIndex = -1;
     } else if (listIndex > index) {
@@ -35,15 +32,8 @@ void ListControl::RemoveItem(int index) {
 void ListControl::Clear() {
     items.clear();
     itemData.clear();
-    selectedItems.clear();
     listIndex = -1;
     text.clear();
-}
-
-void ListControl::SetSelected(int index, bool on) {
-    if (index < 0 || index >= items.size()) throw std::out_of_range("list index outside the list");
-    selectedItems.resize(items.size(), false);
-    selectedItems[index] = on;
 }
 
 void ListControl::SetItemData(int index, qint32 value) {

@@ -74,9 +74,6 @@ struct ListControl : Control {
     int listIndex = -1;
     QString text; // the edit text of a combo box, or the selected item's text
     bool sorted = false;
-    // A list with a check box before each item; the check marks, one per item, are in selectedItems.
-    bool checkBoxes = false;
-    QVector<bool> selectedItems;
 
     int ListCount() const { return static_cast<int>(items.size()); }
     void AddItem(const QString& item, int index = -1);
@@ -86,8 +83,6 @@ struct ListControl : Control {
     qint32 ItemData(int index) const { return itemData.value(index); }
     void SetItemData(int index, qint32 value);
     void SetListIndex(int index); // also sets text, as selecting an item does
-    bool Selected(int index) const { return selectedItems.value(index, false); }
-    void SetSelected(int index, bool on);
 };
 using ListBox = ListControl;
 using ComboBox = ListControl;

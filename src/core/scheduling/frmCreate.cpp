@@ -99,7 +99,6 @@ frmCreate::frmCreate(Session& session)
 
     for (int i = 0; i < kCustomerLabels; ++i)
         lblCustomer[i];
-    lstServices.checkBoxes = true;
     lstWorkorders.visible = false;
     cboServicesCost.visible = false;
     cboTime.visible = false;
@@ -244,7 +243,7 @@ void frmCreate::ResetAppointment() {
     EmptyToOneBlankRow(fgItems);
     EmptyToOneBlankRow(fgServices);
     EmptyToOneBlankRow(fgItemSummary);
-    lstServices.selectedItems.fill(false);
+    m_serviceChecks.clear();
     ClearDaySchedule(fgDaySchedule);
     cmdService[kAddService].enabled = false;
     lstAssignments.enabled = true;
@@ -274,6 +273,12 @@ void frmCreate::ResetAppointment() {
 
 void frmCreate::lstAssignments_Click() {
     if (lstAssignments.listIndex >= 0) PointOfService = static_cast<qint16>(lstAssignments.listIndex + 1);
+}
+
+void frmCreate::SetServiceChecked(int index, bool checked) {
+    if (index < 0 || index >= lstServices.ListCount()) return;
+    if (m_serviceChecks.size() < lstServices.ListCount()) m_serviceChecks.resize(lstServices.ListCount(), false);
+    m_serviceChecks[index] = checked;
 }
 
 QString frmCreate::CurrentSlipName() const { return SlipName(PointOfService, Counter.SlipId); }

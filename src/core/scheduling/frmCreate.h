@@ -10,6 +10,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QVector>
 
 #include <vector>
 
@@ -91,6 +92,10 @@ public:
     bool AdditionalFlag = false;
     Money TotalCost;
 
+    // The check marks of the services list (a list with a check box before each service).
+    bool ServiceChecked(int index) const { return m_serviceChecks.value(index, false); }
+    void SetServiceChecked(int index, bool checked);
+
     // The SlipName of the appointment being built.
     QString CurrentSlipName() const;
 
@@ -152,6 +157,7 @@ private:
 
     Session& m_session;
     bool m_loaded = false;
+    QVector<bool> m_serviceChecks;
 };
 
 // The time of an appointment as the summary shows it: hours, then ":00", ":15", ":30" or ":45".

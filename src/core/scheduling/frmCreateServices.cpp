@@ -89,7 +89,7 @@ void frmCreate::AddService() {
     lstAssignments.enabled = false;
     int checked = -1;
     for (int i = 0; i < lstServices.ListCount() && checked < 0; ++i)
-        if (lstServices.Selected(i)) checked = i;
+        if (ServiceChecked(i)) checked = i;
     if (checked < 0) {
         Box(QStringLiteral("Click on the Services Checkbox [] to Proceed"));
         return;
@@ -105,7 +105,7 @@ void frmCreate::AddService() {
 
     Slots = addSlots(Slots, ParseTimeLabel(cboTime.List(checked)));
     TotalCost += amountOf(cboServicesCost.List(checked));
-    lstServices.SetSelected(checked, false);
+    SetServiceChecked(checked, false);
 
     fraServices.visible = true;
     cmdService[kAddService].enabled = false;

@@ -5,8 +5,12 @@
 #include "scheduling/frmCreate.h"
 #include "shell/Session.h"
 
+#include <QAbstractItemModel>
+#include <QListWidget>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTableWidget>
+#include <QTimer>
 
 namespace ostrel::ui {
 
@@ -18,7 +22,30 @@ CreateView::CreateView(Session& session, frmCreate& screen)
     binder().bindAll(screen.controls);
     wire();
     FollowScreen(*this, screen, session);
+    auto follow = std::move(screen.visibilityChanged);
+    screen.visibilityChanged = [this, follow](Screen& shown) {
+        if (follow) follow(shown);
+        if (shown.isVisible()) showChecksSoon();
+    };
     binder().sync();
+    showChecks();
+}
+
+void CreateView::showChecksSoon() {
+    QTimer::singleShot(0, this, [this] { showChecks(); });
+}
+
+void CreateView::showChecks() {
+    auto* list = qobject_cast<QListWidget*>(binder().widgetFor(m_screen.lstServices));
+    if (!list) return;
+    const QSignalBlocker quiet(list);
+    for (int i = 0; i < list->count(); ++i) {
+        QListWidgetItem* item = list->item(i);
+        if (!(item->flags() & Qt::ItemIsUserCheckable)) item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
+        const Qt::CheckState state = m_screen.ServiceChecked(i) ? Qt::Checked : Qt::Unchecked;
+        if (!item->data(Qt::CheckStateRole).isValid() || item->checkState() != state) item->setCheckState(state);
+    }
+    list->viewport()->update();
 }
 
 void CreateView::onRightClick(Grid& model, void (frmCreate::*handler)()) {
@@ -38,7 +65,10 @@ void CreateView::onRightClick(Grid& model, void (frmCreate::*handler)()) {
 void CreateView::wire() {
     Binder& b = binder();
     frmCreate& s = m_screen;
-    b.onClick(s.cmdService, [this](int i) { m_screen.cmdService_Click(i); });
+    b.onClick(s.cmdService, [this](int i) {
+        m_screen.cmdService_Click(i);
+        showChecksSoon();
+    });
     b.onClick(s.cmdDay, [this](int i) { m_screen.cmdDay_Click(i); });
     b.onChange(s.DTPicker1, [&s] { s.DTPicker1_Change(); });
     b.onClick(s.lstAssignments, [&s] { s.lstAssignments_Click(); });
@@ -56,6 +86,21 @@ void CreateView::wire() {
     b.onClick(s.mnuAddto, [&s] { s.mnuAddto_Click(); });
     b.onClick(s.mnuInstructions, [&s] { s.mnuInstructions_Click(); });
     onRightClick(s.fgServices, &frmCreate::fgServices_RightClick);
+    // A box ticked or cleared by the user is a click on that service.
+    if (auto* list = qobject_cast<QListWidget*>(b.widgetFor(s.lstServices))) {
+        connect(list, &QListWidget::itemChanged, this, [this, list](QListWidgetItem* item) {
+            const int row = list->row(item);
+            const bool checked = item->checkState() == Qt::Checked;
+            if (row < 0 || checked == m_screen.ServiceChecked(row)) return;
+            binder().run([this, row, checked] {
+                m_screen.SetServiceChecked(row, checked);
+                m_screen.lstServices.SetListIndex(row);
+                m_screen.lstServices_Click();
+            });
+            showChecksSoon();
+        });
+        connect(list->model(), &QAbstractItemModel::rowsInserted, this, [this] { showChecksSoon(); });
+    }
     onRightClick(s.fgItems, &frmCreate::fgItems_RightClick);
 }
 
