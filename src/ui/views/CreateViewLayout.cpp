@@ -48,8 +48,9 @@ void plainFont(QWidget* w) {
     w->setFont(f);
 }
 
-QTableWidget* grid(const char* name, QWidget* parent, int stretchColumn) {
-    auto* t = named<QTableWidget>(QLatin1String(name), parent);
+QTableWidget* grid(const char* name, QWidget* parent, int columns, int stretchColumn) {
+    auto* t = new QTableWidget(0, columns, parent);
+    t->setObjectName(QLatin1String(name));
     t->setAlternatingRowColors(true);
     t->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     t->horizontalHeader()->setSectionResizeMode(stretchColumn, QHeaderView::Stretch);
@@ -163,7 +164,7 @@ QGroupBox* accountFrame(QWidget* parent) {
 QGroupBox* servicesFrame(QWidget* parent) {
     QGroupBox* f = frame("fraServices", parent);
     auto* v = new QVBoxLayout(f);
-    QTableWidget* g = grid("fgServices", f, 0);
+    QTableWidget* g = grid("fgServices", f, 3, 0);
     g->setAccessibleName(QStringLiteral("Services Added"));
     g->setMinimumHeight(150);
     v->addWidget(g);
@@ -177,7 +178,7 @@ QGroupBox* servicesFrame(QWidget* parent) {
 QGroupBox* itemsFrame(QWidget* parent) {
     QGroupBox* f = frame("fraItems", parent);
     auto* v = new QVBoxLayout(f);
-    QTableWidget* g = grid("fgItems", f, 1);
+    QTableWidget* g = grid("fgItems", f, 4, 1);
     g->setAccessibleName(QStringLiteral("Sales Items added"));
     g->setMinimumHeight(150);
     v->addWidget(g);
@@ -229,7 +230,7 @@ QGroupBox* summaryFrame(QWidget* parent) {
     plainFont(summary);
     v->addWidget(caption(QStringLiteral("Services"), summary, f));
     v->addWidget(summary);
-    QTableWidget* items = grid("fgItemSummary", f, 1);
+    QTableWidget* items = grid("fgItemSummary", f, 4, 1);
     items->setAccessibleName(QStringLiteral("Items"));
     items->setMaximumHeight(110);
     v->addWidget(items);
@@ -286,11 +287,12 @@ QGroupBox* instructionsFrame(QWidget* parent, int lines) {
 QGroupBox* scheduleFrame(QWidget* parent) {
     QGroupBox* f = frame("fraSchedule", parent);
     auto* v = new QVBoxLayout(f);
-    QTableWidget* day = grid("fgDaySchedule", f, 0);
+    QTableWidget* day = grid("fgDaySchedule", f, 1, 0);
     day->setAccessibleName(QStringLiteral("Day Schedule"));
     day->setAlternatingRowColors(false);
-    day->verticalHeader()->setDefaultSectionSize(kDayRowHeight);
+    // The smallest section first: the default may not go below it.
     day->verticalHeader()->setMinimumSectionSize(kDayRowHeight);
+    day->verticalHeader()->setDefaultSectionSize(kDayRowHeight);
     day->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     day->verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     day->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
