@@ -58,6 +58,7 @@ int main() {
         writeDaySchedule(session.disk, today.year(), n, today.dayOfYear(), d);
         dayFiles << session.root.path(daySchedulePath(today.year(), n, today.dayOfYear()));
     }
+    session.disk.MakeDirectoryIfAbsent(QStringLiteral("/Appointments"));
     QStringList slipFiles;
     for (int i = 1; i <= kSlips; ++i) {
         AppointmentSlip s;

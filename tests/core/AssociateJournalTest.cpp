@@ -21,9 +21,9 @@ AssociateJournalRecord sale(const QString& name, const QString& number, QDate da
     r.Account = number;
     r.JournalDate = date;
     r.Associate = associate;
-    r.SubTotal = sub;
-    r.Tax = tax;
-    r.Gross = gross;
+    r.SubTotal = Money::fromTenThousandths(sub);
+    r.Tax = Money::fromTenThousandths(tax);
+    r.Gross = Money::fromTenThousandths(gross);
     return r;
 }
 
@@ -57,10 +57,10 @@ TEST(AssociateJournal, RecordFieldsStandAtTheirOffsetsByteForByte) {
     EXPECT_EQ(back.Account.trimmed(), "20260001");
     EXPECT_EQ(back.Associate, "Crew Two" + QString(17, ' '));
     EXPECT_EQ(back.JournalDate, QDate(2026, 2, 15));
-    EXPECT_EQ(back.SubTotal, 889200);
-    EXPECT_EQ(back.Tax, 21200);
-    EXPECT_EQ(back.Discount, 0);
-    EXPECT_EQ(back.Gross, 910400);
+    EXPECT_EQ(back.SubTotal.tenThousandths(), 889200);
+    EXPECT_EQ(back.Tax.tenThousandths(), 21200);
+    EXPECT_EQ(back.Discount.tenThousandths(), 0);
+    EXPECT_EQ(back.Gross.tenThousandths(), 910400);
     EXPECT_EQ(back.toRecord().bytes(), expected);
 }
 
@@ -85,7 +85,7 @@ TEST(AssociateJournal, AppendStartsAMissingFileAndAddsAfterTheLastRecord) {
     ASSERT_EQ(all.size(), 2);
     EXPECT_EQ(all[0].toRecord().bytes(), a.toRecord().bytes());
     EXPECT_EQ(all[1].toRecord().bytes(), b.toRecord().bytes());
-    EXPECT_EQ(all[1].Gross, -20000);
+    EXPECT_EQ(all[1].Gross.tenThousandths(), -20000);
     EXPECT_EQ(t.disk().OpenChannelCount(), 0);
 }
 
@@ -96,7 +96,7 @@ TEST(AssociateJournal, ALastRecordAtLeastHalfThereCountsWithItsMissingBytesZero)
     const auto two = AssociateJournalFromBytes(whole + whole.left(100));
     ASSERT_EQ(two.size(), 2);
     EXPECT_EQ(two[1].Transaction.trimmed(), a.Transaction);
-    EXPECT_EQ(two[1].Gross, 0);
+    EXPECT_EQ(two[1].Gross.tenThousandths(), 0);
 }
 
 TEST(AssociateJournal, ReadsTheLegacyJournal) {
@@ -111,7 +111,7 @@ TEST(AssociateJournal, ReadsTheLegacyJournal) {
     EXPECT_EQ(all[0].Account.trimmed(), "20260001");
     EXPECT_EQ(all[0].JournalDate, QDate(2026, 2, 15));
     EXPECT_EQ(all[0].Associate.trimmed(), "Crew Two");
-    EXPECT_EQ(all[0].Discount, 0);
+    EXPECT_EQ(all[0].Discount.tenThousandths(), 0);
     EXPECT_EQ(all[0].Gross, all[0].SubTotal + all[0].Tax);
     // Written again, every record gives back its bytes.
     QByteArray again;

@@ -11,7 +11,7 @@ namespace ostrel {
 namespace {
 constexpr int kTransaction = 0;
 constexpr int kAccount = 30;
-constexpr int kDate = 50;
+constexpr int kDate = AssociateJournalRecord::kDateOffset;
 constexpr int kAssociate = 58;
 constexpr int kSubTotal = 83;
 constexpr int kTax = 91;
@@ -25,10 +25,10 @@ Record AssociateJournalRecord::toRecord() const {
     r.setText(kAccount, kAccountWidth, Account);
     r.setDate(kDate, JournalDate);
     r.setText(kAssociate, kAssociateWidth, Associate);
-    r.setCurrency(kSubTotal, SubTotal);
-    r.setCurrency(kTax, Tax);
-    r.setCurrency(kDiscount, Discount);
-    r.setCurrency(kGross, Gross);
+    r.setCurrency(kSubTotal, SubTotal.tenThousandths());
+    r.setCurrency(kTax, Tax.tenThousandths());
+    r.setCurrency(kDiscount, Discount.tenThousandths());
+    r.setCurrency(kGross, Gross.tenThousandths());
     return r;
 }
 
@@ -38,10 +38,10 @@ AssociateJournalRecord AssociateJournalRecord::fromRecord(const Record& r) {
     j.Account = r.text(kAccount, kAccountWidth);
     j.JournalDate = r.date(kDate);
     j.Associate = r.text(kAssociate, kAssociateWidth);
-    j.SubTotal = r.currency(kSubTotal);
-    j.Tax = r.currency(kTax);
-    j.Discount = r.currency(kDiscount);
-    j.Gross = r.currency(kGross);
+    j.SubTotal = Money::fromTenThousandths(r.currency(kSubTotal));
+    j.Tax = Money::fromTenThousandths(r.currency(kTax));
+    j.Discount = Money::fromTenThousandths(r.currency(kDiscount));
+    j.Gross = Money::fromTenThousandths(r.currency(kGross));
     return j;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Money.h"
+
 #include <QDate>
 #include <QString>
 #include <QVector>
@@ -10,22 +12,23 @@ class DiskRoutines;
 class Record;
 
 // One sale in /AssociateJournal.txt, 115 bytes: written when an invoice is posted in the Associate
-// Sales style, read back by the sales report. Amounts are counts of ten-thousandths.
+// Sales style, read back by the sales report.
 struct AssociateJournalRecord {
     static constexpr int kLength = 115;
     static constexpr int kTransactionWidth = 30;
     static constexpr int kAccountWidth = 20;
     static constexpr int kAssociateWidth = 25;
+    static constexpr int kDateOffset = 50;
     static inline const QString kFileName = QStringLiteral("/AssociateJournal.txt");
 
     QString Transaction; // the customer's name
     QString Account;     // the invoice number
     QDate JournalDate;   // the appointment's date
     QString Associate;   // the Point of Service the job was assigned to
-    qint64 SubTotal = 0;
-    qint64 Tax = 0;      // both taxes together
-    qint64 Discount = 0; // posting always writes 0
-    qint64 Gross = 0;    // the grand total
+    Money SubTotal;
+    Money Tax;      // both taxes together
+    Money Discount; // posting always writes 0
+    Money Gross;    // the grand total
 
     Record toRecord() const;
     static AssociateJournalRecord fromRecord(const Record& record);

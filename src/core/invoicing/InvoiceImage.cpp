@@ -1,7 +1,7 @@
 #include "InvoiceImage.h"
 
-#include "catalogue/CurrencyText.h"
 #include "store/DiskRoutines.h"
+#include "store/Money.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
 
@@ -10,7 +10,7 @@ namespace ostrel {
 namespace {
 
 QString zeroIfEmpty(const QString& amount) {
-    return amount.isEmpty() ? currencytext::format(0) : amount;
+    return amount.isEmpty() ? FormatMoney(Money()) : amount;
 }
 
 } // namespace
@@ -49,7 +49,7 @@ InvoiceImage MakeInvoiceImage(const PostedInvoice& in) {
     image.attention = vbTrim(in.attention);
     image.lines = in.lines;
     image.lineCount = in.lines.size();
-    const QString zero = currencytext::format(0);
+    const QString zero = FormatMoney(Money());
     image.totals = {zeroIfEmpty(in.total), zeroIfEmpty(in.tax),  zeroIfEmpty(in.tax2), zeroIfEmpty(in.grandTotal),
                     zero,                  zeroIfEmpty(in.misc), zero};
     return image;

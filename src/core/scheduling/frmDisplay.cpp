@@ -128,7 +128,6 @@ void frmDisplay::ShowDay() {
         // A day without a file is an empty day, never the last one read.
         DaySlots.fill(QString());
         m_session.Guarded([&] {
-            if (!dayScheduleExists(m_session.disk, PathYear, n, day)) return;
             const DaySchedule d = readDaySchedule(m_session.disk, PathYear, n, day);
             for (int r = 1; r <= kLastTimeSlot; ++r)
                 DaySlots[r] = d.slot(r);

@@ -98,7 +98,6 @@ void frmWorkSchedules::LoadDay() {
     if (point < 1) return;
     const QDate day = DTPicker1.value;
     m_session.Guarded([&] {
-        if (!dayScheduleExists(m_session.disk, day.year(), point, day.dayOfYear())) return;
         const DaySchedule d = readDaySchedule(m_session.disk, day.year(), point, day.dayOfYear());
         for (int r = kFirstTimeSlot; r <= kLastTimeSlot; ++r)
             fgSchedule.SetTextMatrix(r, kService, d.slot(r));

@@ -4,6 +4,8 @@
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
 #include "contracts/frmContract.h"
+#include "invoicing/frmReprint.h"
+#include "printing/frmSales.h"
 #include "scheduling/frmCreate.h"
 #include "scheduling/frmDisplay.h"
 #include "scheduling/frmWorkSchedules.h"
@@ -21,6 +23,8 @@ ProgramScreens AddProgramScreens(Session& session) {
     // The dialer talks on the channel the start-up probe left open on the modem.
     auto& dialer = session.AddScreen(ScreenId::frmDialer, std::make_unique<frmDialer>(session, session.platform.serial));
     session.dial = [&dialer](const QString& name, const QString& number) { dialer.DialFor(name, number); };
+    session.AddScreen(ScreenId::frmReprint, std::make_unique<frmReprint>(session));
+    session.AddScreen(ScreenId::frmSales, std::make_unique<frmSales>(session));
     auto& display = session.AddScreen(ScreenId::frmDisplay, std::make_unique<frmDisplay>(session));
     auto& contract = session.AddScreen(ScreenId::frmContract, std::make_unique<frmContract>(session));
     auto& workSchedules = session.AddScreen(ScreenId::frmWorkSchedules, std::make_unique<frmWorkSchedules>(session));

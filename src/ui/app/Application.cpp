@@ -1,11 +1,15 @@
 #include "Application.h"
 
+#include "invoicing/frmReprint.h"
+#include "printing/frmSales.h"
 #include "shell/ProgramScreens.h"
 #include "views/ContractView.h"
 #include "views/CreateView.h"
 #include "views/DialerView.h"
 #include "views/DisplayView.h"
 #include "views/NewCustomerView.h"
+#include "views/ReprintView.h"
+#include "views/SalesView.h"
 #include "views/ServicesView.h"
 #include "views/SetupView.h"
 #include "views/SplashView.h"
@@ -39,6 +43,10 @@ Application::Application(AppInfo app)
     m_display = std::make_unique<DisplayView>(*m_session, screens.display);
     m_contract = std::make_unique<ContractView>(*m_session, screens.contract);
     m_workSchedules = std::make_unique<WorkSchedulesView>(*m_session, screens.workSchedules);
+    if (auto* reprint = m_session->ScreenAs<frmReprint>(ScreenId::frmReprint))
+        m_reprint = std::make_unique<ReprintView>(*m_session, *reprint);
+    if (auto* sales = m_session->ScreenAs<frmSales>(ScreenId::frmSales))
+        m_sales = std::make_unique<SalesView>(*m_session, *sales);
     m_create = std::make_unique<CreateView>(*m_session, screens.create);
 }
 

@@ -23,6 +23,8 @@ class DialerView;
 class DisplayView;
 class ContractView;
 class WorkSchedulesView;
+class ReprintView;
+class SalesView;
 class CreateView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
@@ -59,6 +61,8 @@ private:
     std::unique_ptr<DisplayView> m_display;
     std::unique_ptr<ContractView> m_contract;
     std::unique_ptr<WorkSchedulesView> m_workSchedules;
+    std::unique_ptr<ReprintView> m_reprint;
+    std::unique_ptr<SalesView> m_sales;
     std::unique_ptr<CreateView> m_create;
 };
 
