@@ -304,15 +304,12 @@ QGroupBox* scheduleFrame(QWidget* parent) {
     auto* check = named<QCheckBox>(QStringLiteral("ckPrintInvoice"), f);
     plainFont(check);
     v->addWidget(check);
-    auto* row = new QHBoxLayout;
+    // The save on a row of its own: its caption is long and must read whole.
     QPushButton* save = button(2, f);
-    QFont bold = save->font();
-    save->setFont(bold);
-    row->addWidget(save, 1);
+    v->addWidget(save);
     QPushButton* other = button(14, f);
     plainFont(other);
-    row->addWidget(other);
-    v->addLayout(row);
+    v->addWidget(other);
     return f;
 }
 
