@@ -4,6 +4,7 @@
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
 #include "contracts/frmContract.h"
+#include "invoicing/frmInvoice.h"
 #include "invoicing/frmReprint.h"
 #include "printing/frmSales.h"
 #include "scheduling/frmCreate.h"
@@ -28,8 +29,11 @@ ProgramScreens AddProgramScreens(Session& session) {
     auto& display = session.AddScreen(ScreenId::frmDisplay, std::make_unique<frmDisplay>(session));
     auto& contract = session.AddScreen(ScreenId::frmContract, std::make_unique<frmContract>(session));
     auto& workSchedules = session.AddScreen(ScreenId::frmWorkSchedules, std::make_unique<frmWorkSchedules>(session));
+    // The slips hand over through /FileToPrint.txt and open this screen.
+    auto& invoice =
+        session.AddScreen(ScreenId::frmInvoice, std::make_unique<frmInvoice>(session, session.catalogueLists));
     auto& create = session.AddScreen(ScreenId::frmCreate, std::make_unique<frmCreate>(session));
-    return {setup, account, services, dialer, display, contract, workSchedules, create};
+    return {setup, account, services, dialer, display, contract, workSchedules, invoice, create};
 }
 
 } // namespace ostrel

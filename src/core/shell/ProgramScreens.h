@@ -10,6 +10,7 @@ class frmDialer;
 class frmDisplay;
 class frmContract;
 class frmWorkSchedules;
+class frmInvoice;
 class frmCreate;
 
 // The screens of this version beyond the welcome screen and the menu.
@@ -21,6 +22,7 @@ struct ProgramScreens {
     frmDisplay& display;
     frmContract& contract;
     frmWorkSchedules& workSchedules;
+    frmInvoice& invoice;
     frmCreate& create;
 };
 

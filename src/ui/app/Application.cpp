@@ -7,6 +7,7 @@
 #include "views/CreateView.h"
 #include "views/DialerView.h"
 #include "views/DisplayView.h"
+#include "views/InvoiceView.h"
 #include "views/NewCustomerView.h"
 #include "views/ReprintView.h"
 #include "views/SalesView.h"
@@ -47,10 +48,14 @@ Application::Application(AppInfo app)
         m_reprint = std::make_unique<ReprintView>(*m_session, *reprint);
     if (auto* sales = m_session->ScreenAs<frmSales>(ScreenId::frmSales))
         m_sales = std::make_unique<SalesView>(*m_session, *sales);
+    m_invoice = std::make_unique<InvoiceView>(*m_session, screens.invoice);
     m_create = std::make_unique<CreateView>(*m_session, screens.create);
 }
 
-Application::~Application() = default;
+Application::~Application() {
+    // The bell's switch reads this session's settings: it goes with them.
+    Binder::setAlarmSwitch({});
+}
 
 bool Application::start() { return m_session->Main() == Session::StartResult::Running; }
 

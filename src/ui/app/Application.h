@@ -25,6 +25,7 @@ class ContractView;
 class WorkSchedulesView;
 class ReprintView;
 class SalesView;
+class InvoiceView;
 class CreateView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
@@ -63,6 +64,7 @@ private:
     std::unique_ptr<WorkSchedulesView> m_workSchedules;
     std::unique_ptr<ReprintView> m_reprint;
     std::unique_ptr<SalesView> m_sales;
+    std::unique_ptr<InvoiceView> m_invoice;
     std::unique_ptr<CreateView> m_create;
 };
 
