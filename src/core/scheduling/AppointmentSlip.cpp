@@ -37,7 +37,7 @@ QString withFileLineEnds(const QString& text) {
 
 enum class CommentRead { Field, WholeLine };
 
-TextWriter slipWriter(const AppointmentSlip& slip) {
+TextWriter slipWriter(const AppointmentSlip& slip, bool commentAsItStands = false) {
     TextWriter out;
     out.writeString(slip.Status);
     out.write({slip.SlipDate});
@@ -47,7 +47,8 @@ TextWriter slipWriter(const AppointmentSlip& slip) {
     out.writeNumber(slip.SlipStartRow);
     for (const QString& field : slip.Customer)
         out.writeString(field);
-    out.print(slip.SlipComment.isEmpty() ? kNoCustomerInstructions : withFileLineEnds(slip.SlipComment));
+    out.print(slip.SlipComment.isEmpty() && !commentAsItStands ? kNoCustomerInstructions
+                                                                : withFileLineEnds(slip.SlipComment));
     return out;
 }
 
@@ -115,6 +116,10 @@ QByteArray SlipFileBytes(const AppointmentSlip& slip) {
 
 void WriteSlip(DiskRoutines& disk, const AppointmentSlip& slip) {
     disk.ReplaceTextFile(appointmentFileName(slip.SlipName), slipWriter(slip));
+}
+
+void RewriteInvoicedSlip(DiskRoutines& disk, const QString& slipName, const AppointmentSlip& slip) {
+    disk.ReplaceTextFile(appointmentFileName(slipName), slipWriter(slip, true));
 }
 
 void WriteServicesFile(DiskRoutines& disk, const QString& slipName, const std::vector<SlipService>& services) {

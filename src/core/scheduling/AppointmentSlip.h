@@ -62,6 +62,10 @@ QByteArray SlipFileBytes(const AppointmentSlip& slip);
 // comment is stored as "No Customer Instructions".
 void WriteSlip(DiskRoutines& disk, const AppointmentSlip& slip);
 
+// The invoice's rewrite of a posted job's slip, as "/Appointments/<slipName>.txt" replaced in one
+// step: `slip` holds the fields in their invoiced places, and its comment is written as it stands,
+// an empty one included.
+void RewriteInvoicedSlip(DiskRoutines& disk, const QString& slipName, const AppointmentSlip& slip);
 // One line of a slip's Services file.
 struct SlipService {
     QString name;

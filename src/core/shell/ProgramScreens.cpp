@@ -4,8 +4,10 @@
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/frmServices.h"
 #include "contracts/frmContract.h"
+#include "invoicing/frmInvoice.h"
 #include "invoicing/frmReprint.h"
 #include "printing/frmSales.h"
+#include "scheduling/frmCreate.h"
 #include "scheduling/frmDisplay.h"
 #include "scheduling/frmWorkSchedules.h"
 #include "setup/frmSetup.h"
@@ -35,7 +37,11 @@ ProgramScreens AddProgramScreens(Session& session) {
         std::make_unique<frmWorkOrders>(session, terms, session.catalogueLists.frmWorkOrders.fgAddServices));
     // A custom disclaimer found as the terms load at start-up is the one work orders print.
     terms.customDisclaimerFound = [&workOrders] { workOrders.SelectDisclaimer(1); };
-    return {setup, account, services, dialer, display, contract, workSchedules, terms, workOrders};
+    // The slips hand over through /FileToPrint.txt and open this screen.
+    auto& invoice =
+        session.AddScreen(ScreenId::frmInvoice, std::make_unique<frmInvoice>(session, session.catalogueLists));
+    auto& create = session.AddScreen(ScreenId::frmCreate, std::make_unique<frmCreate>(session));
+    return {setup, account, services, dialer, display, contract, workSchedules, terms, workOrders, invoice, create};
 }
 
 } // namespace ostrel

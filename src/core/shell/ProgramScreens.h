@@ -12,6 +12,8 @@ class frmContract;
 class frmWorkSchedules;
 class frmTerms;
 class frmWorkOrders;
+class frmInvoice;
+class frmCreate;
 
 // The screens of this version beyond the welcome screen and the menu.
 struct ProgramScreens {
@@ -24,6 +26,8 @@ struct ProgramScreens {
     frmWorkSchedules& workSchedules;
     frmTerms& terms;
     frmWorkOrders& workOrders;
+    frmInvoice& invoice;
+    frmCreate& create;
 };
 
 // Brings every screen into the session and connects the account screen to the dialer. Runs before

@@ -249,6 +249,28 @@ void DiskRoutines::CopyDataFile(const QString& sourceName, const QString& target
     writeWhole(writableTarget(targetName), targetName, in.readAll());
 }
 
+void DiskRoutines::PutRecords(const QString& name, int recordLength, qint64 firstRecord,
+                              const QByteArray& records) {
+    if (recordLength <= 0 || firstRecord < 1)
+        throw StoreError(name, QStringLiteral("A record was to be written at an impossible place."));
+    const DataRoot::Entry target = writableTarget(name);
+    QByteArray bytes;
+    if (target.isFile()) {
+        QFile in(target.path);
+        if (!in.open(QIODevice::ReadOnly))
+            throw StoreError(name, QStringLiteral("The file cannot be opened: ") + in.errorString());
+        bytes = in.readAll();
+    }
+    const qint64 offset = (firstRecord - 1) * recordLength;
+    const qint64 oldSize = bytes.size();
+    if (oldSize < offset + records.size()) {
+        bytes.resize(offset + records.size());
+        std::memset(bytes.data() + oldSize, 0, static_cast<size_t>(bytes.size() - oldSize));
+    }
+    std::memcpy(bytes.data() + offset, records.constData(), static_cast<size_t>(records.size()));
+    writeWhole(target, name, bytes);
+}
+
 void DiskRoutines::ReplaceTextFile(const QString& name, const TextWriter& content) {
     DeleteDataFile(kBackup + name);
     OpenForOutput(name) = content;

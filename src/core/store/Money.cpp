@@ -66,4 +66,16 @@ QString FormatMoney(Money amount) {
     return currencytext::format(amount.tenThousandths());
 }
 
+QString Money::plainText() const {
+    const QByteArray statement = statementText();
+    if (statement.startsWith('.')) return u'0' + QString::fromLatin1(statement);
+    if (statement.startsWith("-.")) return QStringLiteral("-0") + QString::fromLatin1(statement.mid(1));
+    return QString::fromLatin1(statement);
+}
+
+QString FormatMoneyText(const QString& text) {
+    const std::optional<Money> amount = Money::fromDisplayText(text);
+    return amount ? FormatMoney(*amount) : text;
+}
+
 } // namespace ostrel

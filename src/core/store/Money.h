@@ -28,6 +28,9 @@ public:
     double toDouble() const { return static_cast<double>(m_value) / 10000.0; }
     // The number as a quoted write puts a Currency: no trailing zeros, no leading zero before the point.
     QByteArray statementText() const;
+    // The plain number as the bookkeeping records hold it: no sign of currency, no separators, a
+    // leading zero, up to four decimals and no trailing zeros ("1.6492", "0.5", "-3.25", "0").
+    QString plainText() const;
 
     constexpr Money operator+(Money o) const { return Money(m_value + o.m_value); }
     constexpr Money operator-(Money o) const { return Money(m_value - o.m_value); }
@@ -43,5 +46,7 @@ private:
 
 // The display form: "$1,234.50", negatives "($1,234.50)", rounded to cents.
 QString FormatMoney(Money amount);
+// A text amount put in the display form; a text that is no amount stays as it is.
+QString FormatMoneyText(const QString& text);
 
 } // namespace ostrel

@@ -4,8 +4,10 @@
 #include "printing/frmSales.h"
 #include "shell/ProgramScreens.h"
 #include "views/ContractView.h"
+#include "views/CreateView.h"
 #include "views/DialerView.h"
 #include "views/DisplayView.h"
+#include "views/InvoiceView.h"
 #include "views/NewCustomerView.h"
 #include "views/ReprintView.h"
 #include "views/SalesView.h"
@@ -50,9 +52,14 @@ Application::Application(AppInfo app)
         m_sales = std::make_unique<SalesView>(*m_session, *sales);
     m_terms = std::make_unique<TermsView>(*m_session, screens.terms);
     m_workOrders = std::make_unique<WorkOrdersView>(*m_session, screens.workOrders);
+    m_invoice = std::make_unique<InvoiceView>(*m_session, screens.invoice);
+    m_create = std::make_unique<CreateView>(*m_session, screens.create);
 }
 
-Application::~Application() = default;
+Application::~Application() {
+    // The bell's switch reads this session's settings: it goes with them.
+    Binder::setAlarmSwitch({});
+}
 
 bool Application::start() { return m_session->Main() == Session::StartResult::Running; }
 

@@ -27,6 +27,8 @@ class ReprintView;
 class SalesView;
 class TermsView;
 class WorkOrdersView;
+class InvoiceView;
+class CreateView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
 class Application {
@@ -66,6 +68,8 @@ private:
     std::unique_ptr<SalesView> m_sales;
     std::unique_ptr<TermsView> m_terms;
     std::unique_ptr<WorkOrdersView> m_workOrders;
+    std::unique_ptr<InvoiceView> m_invoice;
+    std::unique_ptr<CreateView> m_create;
 };
 
 // The resources of the view library (pictures); a static library must ask for them.
