@@ -52,12 +52,16 @@ void CreateView::onRightClick(Grid& model, void (frmCreate::*handler)()) {
     auto* table = qobject_cast<QTableWidget*>(binder().widgetFor(model));
     if (!table) return;
     table->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(table, &QTableWidget::customContextMenuRequested, this, [this, table, &model, handler](QPoint at) {
+    // Plain pointers are captured: the slot outlives this call, so nothing may refer to its frame.
+    Grid* grid = &model;
+    frmCreate* screen = &m_screen;
+    Binder* bound = &binder();
+    connect(table, &QTableWidget::customContextMenuRequested, this, [table, grid, screen, bound, handler](QPoint at) {
         const int row = table->rowAt(at.y());
         if (row < 0) return;
-        binder().run([this, &model, handler, row] {
-            model.row = row + (model.fixedRows > 0 ? 1 : 0);
-            (m_screen.*handler)();
+        bound->run([grid, screen, handler, row] {
+            grid->row = row + (grid->fixedRows > 0 ? 1 : 0);
+            (screen->*handler)();
         });
     });
 }
