@@ -132,6 +132,16 @@ void WriteServicesFile(DiskRoutines& disk, const QString& slipName, const std::v
     disk.ReplaceTextFile(servicesFileName(slipName), out);
 }
 
+void AppendServicesFile(DiskRoutines& disk, const QString& slipName, const std::vector<SlipService>& added) {
+    TextWriter& out = disk.OpenForAppend(servicesFileName(slipName));
+    for (const SlipService& s : added) {
+        out.writeString(s.name);
+        out.writeNumber(s.cost.tenThousandths() / 10000);
+        out.print(QString::fromLatin1(Money::fromWhole(s.slots).statementText())); // a Currency is written bare
+    }
+    disk.CloseAllFiles();
+}
+
 std::vector<SlipService> ReadServicesFile(DiskRoutines& disk, const QString& slipName) {
     const QString name = servicesFileName(slipName);
     if (!disk.FileExists(name)) return {};
@@ -200,7 +210,11 @@ void DeleteAppointment(DiskRoutines& disk, const QString& fileName) {
 }
 
 void DeleteSlipFilesByNumber(DiskRoutines& disk, int number) {
-    const QString file = QString::number(number) + QStringLiteral(".txt");
+    DeleteSlipFilesByNumber(disk, QString::number(number));
+}
+
+void DeleteSlipFilesByNumber(DiskRoutines& disk, const QString& slipName) {
+    const QString file = slipName + QStringLiteral(".txt");
     disk.DeleteDataFile(QStringLiteral("/Appointmemts/") + file);
     disk.DeleteDataFile(QStringLiteral("/SoldItems/") + file);
     disk.DeleteDataFile(QStringLiteral("/Services/") + file);

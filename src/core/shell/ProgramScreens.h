@@ -10,7 +10,10 @@ class frmDialer;
 class frmDisplay;
 class frmContract;
 class frmWorkSchedules;
+class frmTerms;
+class frmWorkOrders;
 class frmInvoice;
+class frmCreate;
 class frmBlock;
 class frmAppointments;
 
@@ -23,7 +26,10 @@ struct ProgramScreens {
     frmDisplay& display;
     frmContract& contract;
     frmWorkSchedules& workSchedules;
+    frmTerms& terms;
+    frmWorkOrders& workOrders;
     frmInvoice& invoice;
+    frmCreate& create;
     frmBlock& block;
     frmAppointments& appointments;
 };

@@ -46,6 +46,7 @@ Session::StartResult Session::Main() {
     // 4. The settings and the modem, read as the Setup screen loads.
     Guarded([&] { LoadSetupSettings(disk, programName(), settings); });
     LoadPhoneSettings(*this, platform.serial);
+    LoadScreen(ScreenId::frmTerms);
     LoadScreen(ScreenId::frmSetup);
     // 6. The Points of Service and their lists; the account screen is loaded with its list.
     LoadServiceAreas();

@@ -4,6 +4,7 @@
 #include "printing/frmSales.h"
 #include "shell/ProgramScreens.h"
 #include "views/ContractView.h"
+#include "views/CreateView.h"
 #include "views/AppointmentsView.h"
 #include "views/BlockView.h"
 #include "views/DialerView.h"
@@ -17,6 +18,8 @@
 #include "views/SplashView.h"
 #include "views/StartupView.h"
 #include "views/WorkSchedulesView.h"
+#include "views/TermsView.h"
+#include "views/WorkOrdersView.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -49,7 +52,10 @@ Application::Application(AppInfo app)
         m_reprint = std::make_unique<ReprintView>(*m_session, *reprint);
     if (auto* sales = m_session->ScreenAs<frmSales>(ScreenId::frmSales))
         m_sales = std::make_unique<SalesView>(*m_session, *sales);
+    m_terms = std::make_unique<TermsView>(*m_session, screens.terms);
+    m_workOrders = std::make_unique<WorkOrdersView>(*m_session, screens.workOrders);
     m_invoice = std::make_unique<InvoiceView>(*m_session, screens.invoice);
+    m_create = std::make_unique<CreateView>(*m_session, screens.create);
     m_block = std::make_unique<BlockView>(*m_session, screens.block);
     m_appointments = std::make_unique<AppointmentsView>(*m_session, screens.appointments);
 }
