@@ -19,10 +19,15 @@ TEST(CatalogueCurrencyText, ShowsNegativesInParentheses) {
               QStringLiteral("($922,337,203,685,477.58)"));
 }
 
-TEST(CatalogueCurrencyText, RoundsToCentsHalfAwayFromZero) {
-    EXPECT_EQ(currencytext::format(1050), QStringLiteral("$0.11"));
+TEST(CatalogueCurrencyText, RoundsToCentsHalfAwayFromZeroButAHalfBelowInBinaryDown) {
+    EXPECT_EQ(currencytext::format(1051), QStringLiteral("$0.11"));
     EXPECT_EQ(currencytext::format(1049), QStringLiteral("$0.10"));
-    EXPECT_EQ(currencytext::format(-1050), QStringLiteral("($0.11)"));
+    EXPECT_EQ(currencytext::format(1250), QStringLiteral("$0.13"));  // 0.125 is exact in binary
+    EXPECT_EQ(currencytext::format(-1250), QStringLiteral("($0.13)"));
+    EXPECT_EQ(currencytext::format(3350), QStringLiteral("$0.34"));  // 0.335 lies just above
+    EXPECT_EQ(currencytext::format(1050), QStringLiteral("$0.10"));  // 0.105 lies just below
+    EXPECT_EQ(currencytext::format(480550), QStringLiteral("$48.05"));
+    EXPECT_EQ(currencytext::format(-480550), QStringLiteral("($48.05)"));
 }
 
 TEST(CatalogueCurrencyText, ReadsTheShownFormAndPlainNumbers) {

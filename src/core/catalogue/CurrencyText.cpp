@@ -2,6 +2,8 @@
 
 #include <QtNumeric>
 
+#include <cmath>
+
 namespace ostrel::currencytext {
 
 QString format(qint64 tenThousandths) {
@@ -10,7 +12,16 @@ QString format(qint64 tenThousandths) {
     quint64 magnitude =
         negative ? 0 - static_cast<quint64>(tenThousandths) : static_cast<quint64>(tenThousandths);
     quint64 cents = magnitude / 100;
-    if (magnitude % 100 >= 50) ++cents;
+    const quint64 rest = magnitude % 100;
+    if (rest > 50) {
+        ++cents;
+    } else if (rest == 50) {
+        // A half cent is decided on the amount as a double, the way the old display form rounded
+        // it: 48.055 is stored in binary just below the half and shows $48.05, 0.335 just above
+        // and shows $0.34. A half that a double holds exactly goes away from zero.
+        const double d = static_cast<double>(magnitude) / 10000.0;
+        if (std::fma(d, 10000.0, -static_cast<double>(magnitude)) >= 0) ++cents;
+    }
     QString whole = QString::number(cents / 100);
     for (qsizetype i = whole.size() - 3; i > 0; i -= 3)
         whole.insert(i, u',');

@@ -36,7 +36,7 @@ AssociateJournalRecord AssociateJournalRecord::fromRecord(const Record& r) {
     AssociateJournalRecord j;
     j.Transaction = r.text(kTransaction, kTransactionWidth);
     j.Account = r.text(kAccount, kAccountWidth);
-    j.JournalDate = r.date(kDate);
+    j.JournalDate = DayOf(r.float64(kDate));
     j.Associate = r.text(kAssociate, kAssociateWidth);
     j.SubTotal = Money::fromTenThousandths(r.currency(kSubTotal));
     j.Tax = Money::fromTenThousandths(r.currency(kTax));
@@ -47,8 +47,8 @@ AssociateJournalRecord AssociateJournalRecord::fromRecord(const Record& r) {
 
 void AddJournalRecord(DiskRoutines& disk, const AssociateJournalRecord& record) {
     const int next = disk.FileRecordCount(AssociateJournalRecord::kFileName, AssociateJournalRecord::kLength) + 1;
-    disk.OpenRandom(AssociateJournalRecord::kFileName, AssociateJournalRecord::kLength).put(next, record.toRecord());
-    disk.CloseAllFiles();
+    // Put in one step, so that a crash leaves the journal as it was or with the whole record.
+    disk.PutRecords(AssociateJournalRecord::kFileName, AssociateJournalRecord::kLength, next, record.toRecord().bytes());
 }
 
 QVector<AssociateJournalRecord> AssociateJournalFromBytes(const QByteArray& bytes) {

@@ -37,6 +37,7 @@ struct PrintFont {
     double size = 10;
     bool bold = false;
     bool underline = false;
+    bool italic = false;
     bool operator==(const PrintFont&) const = default;
 };
 
@@ -66,6 +67,7 @@ public:
     double FontSize = 10;
     bool FontBold = false;
     bool FontUnderline = false;
+    bool FontItalic = false;
     Colour ForeColor = 0; // 24 bits, red in the low byte
     double CurrentX = 0;
     double CurrentY = 0;
@@ -82,7 +84,7 @@ public:
     // The number of the page being drawn, from 1.
     int Page() const { return m_page; }
 
-    PrintFont Font() const { return {FontName, FontSize, FontBold, FontUnderline}; }
+    PrintFont Font() const { return {FontName, FontSize, FontBold, FontUnderline, FontItalic}; }
     // The size of a text in the current font; a text of several lines is as wide as its widest.
     double TextWidth(const QString& text);
     double TextHeight(const QString& text);

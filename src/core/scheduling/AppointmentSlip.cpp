@@ -4,7 +4,6 @@
 #include "store/StoreError.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace ostrel {
 
@@ -20,9 +19,8 @@ template <typename Read> auto readStatement(TextReader& in, const QString& what,
     return read();
 }
 
-qint16 toInt16(double v) {
-    return static_cast<qint16>(std::nearbyint(v));
-}
+// An Integer statement; one no Integer holds makes the file a bad file.
+qint16 readInt16(TextReader& in) { return static_cast<qint16>(in.readInteger(-32768, 32767)); }
 
 // The comment box's line breaks as the print statement puts them in a file.
 QString withFileLineEnds(const QString& text) {
@@ -37,7 +35,7 @@ QString withFileLineEnds(const QString& text) {
 
 enum class CommentRead { Field, WholeLine };
 
-TextWriter slipWriter(const AppointmentSlip& slip) {
+TextWriter slipWriter(const AppointmentSlip& slip, bool commentAsItStands = false) {
     TextWriter out;
     out.writeString(slip.Status);
     out.write({slip.SlipDate});
@@ -47,10 +45,10 @@ TextWriter slipWriter(const AppointmentSlip& slip) {
     out.writeNumber(slip.SlipStartRow);
     for (const QString& field : slip.Customer)
         out.writeString(field);
-    out.print(slip.SlipComment.isEmpty() ? kNoCustomerInstructions : withFileLineEnds(slip.SlipComment));
+    out.print(slip.SlipComment.isEmpty() && !commentAsItStands ? kNoCustomerInstructions
+                                                                : withFileLineEnds(slip.SlipComment));
     return out;
 }
-
 
 AppointmentSlip readSlipFile(DiskRoutines& disk, const QString& slipName, CommentRead commentRead) {
     TextReader in = disk.ReadTextFile(appointmentFileName(slipName));
@@ -59,9 +57,9 @@ AppointmentSlip readSlipFile(DiskRoutines& disk, const QString& slipName, Commen
     s.SlipDate = readStatement(in, QStringLiteral("date"), [&] { return in.readDate(); });
     s.SlipName = readStatement(in, QStringLiteral("appointment number"), [&] { return in.readString(); });
     s.SlipPointOfService =
-        readStatement(in, QStringLiteral("Point of Service"), [&] { return toInt16(in.readNumber()); });
-    s.Slots = readStatement(in, QStringLiteral("time slots"), [&] { return toInt16(in.readNumber()); });
-    s.SlipStartRow = readStatement(in, QStringLiteral("start row"), [&] { return toInt16(in.readNumber()); });
+        readStatement(in, QStringLiteral("Point of Service"), [&] { return readInt16(in); });
+    s.Slots = readStatement(in, QStringLiteral("time slots"), [&] { return readInt16(in); });
+    s.SlipStartRow = readStatement(in, QStringLiteral("start row"), [&] { return readInt16(in); });
     for (QString& field : s.Customer)
         field = readStatement(in, QStringLiteral("customer fields"), [&] { return in.readString(); });
     s.SlipComment = readStatement(in, QStringLiteral("comments"), [&] {
@@ -117,6 +115,10 @@ void WriteSlip(DiskRoutines& disk, const AppointmentSlip& slip) {
     disk.ReplaceTextFile(appointmentFileName(slip.SlipName), slipWriter(slip));
 }
 
+void RewriteInvoicedSlip(DiskRoutines& disk, const QString& slipName, const AppointmentSlip& slip) {
+    disk.ReplaceTextFile(appointmentFileName(slipName), slipWriter(slip, true));
+}
+
 void WriteServicesFile(DiskRoutines& disk, const QString& slipName, const std::vector<SlipService>& services) {
     TextWriter out;
     for (const SlipService& s : services) {
@@ -125,6 +127,16 @@ void WriteServicesFile(DiskRoutines& disk, const QString& slipName, const std::v
         out.writeNumber(s.slots);
     }
     disk.ReplaceTextFile(servicesFileName(slipName), out);
+}
+
+void AppendServicesFile(DiskRoutines& disk, const QString& slipName, const std::vector<SlipService>& added) {
+    TextWriter& out = disk.OpenForAppend(servicesFileName(slipName));
+    for (const SlipService& s : added) {
+        out.writeString(s.name);
+        out.writeNumber(s.cost.tenThousandths() / 10000);
+        out.print(QString::fromLatin1(Money::fromWhole(s.slots).statementText())); // a Currency is written bare
+    }
+    disk.CloseAllFiles();
 }
 
 std::vector<SlipService> ReadServicesFile(DiskRoutines& disk, const QString& slipName) {
@@ -140,7 +152,7 @@ std::vector<SlipService> ReadServicesFile(DiskRoutines& disk, const QString& sli
         if (!money)
             throw StoreError(name, QStringLiteral("The cost of %1 is no amount: %2").arg(s.name, QString::fromLatin1(cost)));
         s.cost = *money;
-        s.slots = readStatement(in, QStringLiteral("time of ") + s.name, [&] { return toInt16(in.readNumber()); });
+        s.slots = readStatement(in, QStringLiteral("time of ") + s.name, [&] { return readInt16(in); });
         services.push_back(std::move(s));
     }
     return services;
@@ -195,7 +207,11 @@ void DeleteAppointment(DiskRoutines& disk, const QString& fileName) {
 }
 
 void DeleteSlipFilesByNumber(DiskRoutines& disk, int number) {
-    const QString file = QString::number(number) + QStringLiteral(".txt");
+    DeleteSlipFilesByNumber(disk, QString::number(number));
+}
+
+void DeleteSlipFilesByNumber(DiskRoutines& disk, const QString& slipName) {
+    const QString file = slipName + QStringLiteral(".txt");
     disk.DeleteDataFile(QStringLiteral("/Appointmemts/") + file);
     disk.DeleteDataFile(QStringLiteral("/SoldItems/") + file);
     disk.DeleteDataFile(QStringLiteral("/Services/") + file);

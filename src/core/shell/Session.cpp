@@ -55,6 +55,7 @@ Session::StartResult Session::Main() {
     // 4. The settings and the modem, read as the Setup screen loads.
     Guarded([&] { LoadSetupSettings(disk, programName(), settings); });
     LoadPhoneSettings(*this, platform.serial);
+    LoadScreen(ScreenId::frmTerms);
     LoadScreen(ScreenId::frmSetup);
     // 6. The Points of Service and their lists; the account screen is loaded with its list.
     LoadServiceAreas();
@@ -63,9 +64,10 @@ Session::StartResult Session::Main() {
     const int count = pointOfServiceNames.UpperBound();
     Guarded([&] { PurgeLastYear(disk, today(), count); });
     Guarded([&] { PurgePastDays(disk, today(), today().dayOfYear(), count); });
-    // 9. The main menu, loaded hidden, then the catalogue.
+    // 9. The main menu, loaded hidden, then the catalogue and the appointment routines.
     RegisterScreen(ScreenId::frmStartup, *m_startup);
     LoadScreen(ScreenId::frmServices);
+    LoadScreen(ScreenId::frmAppointments);
     m_started = true;
     return StartResult::Running;
 }

@@ -193,18 +193,17 @@ void DiskRoutines::commit(Channel& c) {
         writeWhole(c.target, c.name, c.writer.bytes());
         break;
     case Channel::Mode::Append: {
-        mayWriteOver(c.target.path, c.name);
-        // One write at the end: a crash leaves the file without the new lines or with all of them.
-        FileOps& ops = FileOps::current();
-        const QByteArray& bytes = c.writer.bytes();
-        const int fd = ops.open(QFile::encodeName(c.target.path), O_WRONLY | O_APPEND | O_CREAT, 0666);
-        if (fd < 0) throw StoreError(c.name, QStringLiteral("The file could not be written: ") + systemError());
-        const bool written = ops.write(fd, bytes.constData(), bytes.size()) == bytes.size() && ops.fsync(fd) == 0;
-        const QString why = written ? QString() : systemError();
-        if (ops.close(fd) != 0 && written)
-            throw StoreError(c.name, QStringLiteral("The file could not be written: ") + systemError());
-        if (!written) throw StoreError(c.name, QStringLiteral("The file could not be written: ") + why);
-        if (!c.target.exists()) m_root.noteCreated(c.target.path);
+        // The old lines and the new ones take the file's place in one step: a crash or a failed
+        // write leaves the file as it was or with every new line, never with part of one.
+        QByteArray bytes;
+        if (c.target.isFile()) {
+            QFile in(c.target.path);
+            if (!in.open(QIODevice::ReadOnly))
+                throw StoreError(c.name, QStringLiteral("The file cannot be opened: ") + in.errorString());
+            bytes = in.readAll();
+        }
+        bytes += c.writer.bytes();
+        writeWhole(c.target, c.name, bytes);
         break;
     }
     case Channel::Mode::Random:
@@ -284,6 +283,28 @@ void DiskRoutines::CopyDataFile(const QString& sourceName, const QString& target
     if (!in.open(QIODevice::ReadOnly))
         throw StoreError(sourceName, QStringLiteral("The file cannot be opened: ") + in.errorString());
     writeWhole(writableTarget(targetName), targetName, in.readAll());
+}
+
+void DiskRoutines::PutRecords(const QString& name, int recordLength, qint64 firstRecord,
+                              const QByteArray& records) {
+    if (recordLength <= 0 || firstRecord < 1)
+        throw StoreError(name, QStringLiteral("A record was to be written at an impossible place."));
+    const DataRoot::Entry target = writableTarget(name);
+    QByteArray bytes;
+    if (target.isFile()) {
+        QFile in(target.path);
+        if (!in.open(QIODevice::ReadOnly))
+            throw StoreError(name, QStringLiteral("The file cannot be opened: ") + in.errorString());
+        bytes = in.readAll();
+    }
+    const qint64 offset = (firstRecord - 1) * recordLength;
+    const qint64 oldSize = bytes.size();
+    if (oldSize < offset + records.size()) {
+        bytes.resize(offset + records.size());
+        std::memset(bytes.data() + oldSize, 0, static_cast<size_t>(bytes.size() - oldSize));
+    }
+    std::memcpy(bytes.data() + offset, records.constData(), static_cast<size_t>(records.size()));
+    writeWhole(target, name, bytes);
 }
 
 void DiskRoutines::ReplaceTextFile(const QString& name, const TextWriter& content) {

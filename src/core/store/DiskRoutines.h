@@ -74,6 +74,11 @@ public:
     // The same for a file of fixed records written whole: its backup copy is dropped, and the file
     // is replaced in one step, so a crash leaves the old records or the new ones.
     void ReplaceRecordFile(const QString& name, const QByteArray& records);
+    // Writes `records` (whole records) from record number `firstRecord` on, the way a put of each
+    // would, but in one step: the file is rewritten beside itself and renamed over, so a crash
+    // leaves it as it was or with every new record. A file that is absent is created; its backup
+    // copy is left alone.
+    void PutRecords(const QString& name, int recordLength, qint64 firstRecord, const QByteArray& records);
     // The whole file for the field and line reads; throws when it is absent.
     TextReader ReadTextFile(const QString& name);
 

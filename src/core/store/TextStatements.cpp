@@ -134,8 +134,15 @@ void TextReader::skipDelimiter() {
     }
 }
 
-qint64 TextReader::readInteger(qint64 low, qint64 high) {
-    const TextField f = readField();
+qint64 TextReader::readInteger(qint64 low, qint64 high) { return integerIn(readField(), low, high); }
+
+qint64 TextReader::readIntegerLine(qint64 low, qint64 high) {
+    TextField f;
+    f.raw = cp1252::encode(readLine());
+    return integerIn(f, low, high);
+}
+
+qint64 TextReader::integerIn(const TextField& f, qint64 low, qint64 high) const {
     if (const std::optional<qint64> n = f.toIntegerIn(low, high)) return *n;
     throw StoreError(m_file, QStringLiteral("The file holds \"%1\" where a whole number from %2 to %3 belongs.")
                                  .arg(f.toString())

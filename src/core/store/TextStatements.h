@@ -69,6 +69,9 @@ public:
     // A whole number (rounded half to even) that must lie within [low, high]: "nan", "inf", "1e300"
     // or a number out of range makes the file a bad file (StoreError naming it).
     qint64 readInteger(qint64 low = std::numeric_limits<qint64>::min(), qint64 high = std::numeric_limits<qint64>::max());
+    // A whole line read as a whole number the same way.
+    qint64 readIntegerLine(qint64 low = std::numeric_limits<qint64>::min(),
+                           qint64 high = std::numeric_limits<qint64>::max());
     bool readBoolean() { return readField().toBoolean(); }
     QDate readDate() { return readField().toDate(); }
 
@@ -80,6 +83,7 @@ public:
 
 private:
     void throwPastEnd() const;
+    qint64 integerIn(const TextField& f, qint64 low, qint64 high) const;
     void skipDelimiter();
 
     QByteArray m_bytes;

@@ -18,4 +18,6 @@ QString vbTrim(const QString& s) { return vbLTrim(vbRTrim(s)); }
 
 QString vbStr(qint64 n) { return n >= 0 ? u' ' + QString::number(n) : QString::number(n); }
 
+QString vbDate(const QDate& date) { return date.toString(QStringLiteral("M/d/yyyy")); }
+
 } // namespace ostrel

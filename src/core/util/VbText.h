@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 
 namespace ostrel {
@@ -11,5 +12,8 @@ QString vbRTrim(const QString& s);
 
 // The number-to-text form that puts one blank before a positive number (" 1", "-1").
 QString vbStr(qint64 n);
+
+// A date as text in messages, grids and captions: the short form of the United States, "11/22/2026".
+QString vbDate(const QDate& date);
 
 } // namespace ostrel

@@ -4,8 +4,12 @@
 #include "printing/frmSales.h"
 #include "shell/ProgramScreens.h"
 #include "views/ContractView.h"
+#include "views/CreateView.h"
+#include "views/AppointmentsView.h"
+#include "views/BlockView.h"
 #include "views/DialerView.h"
 #include "views/DisplayView.h"
+#include "views/InvoiceView.h"
 #include "views/NewCustomerView.h"
 #include "views/ReprintView.h"
 #include "views/SalesView.h"
@@ -14,6 +18,8 @@
 #include "views/SplashView.h"
 #include "views/StartupView.h"
 #include "views/WorkSchedulesView.h"
+#include "views/TermsView.h"
+#include "views/WorkOrdersView.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -50,9 +56,18 @@ Application::Application(AppInfo app)
         m_reprint = std::make_unique<ReprintView>(*m_session, *reprint);
     if (auto* sales = m_session->ScreenAs<frmSales>(ScreenId::frmSales))
         m_sales = std::make_unique<SalesView>(*m_session, *sales);
+    m_terms = std::make_unique<TermsView>(*m_session, screens.terms);
+    m_workOrders = std::make_unique<WorkOrdersView>(*m_session, screens.workOrders);
+    m_invoice = std::make_unique<InvoiceView>(*m_session, screens.invoice);
+    m_create = std::make_unique<CreateView>(*m_session, screens.create);
+    m_block = std::make_unique<BlockView>(*m_session, screens.block);
+    m_appointments = std::make_unique<AppointmentsView>(*m_session, screens.appointments);
 }
 
-Application::~Application() = default;
+Application::~Application() {
+    // The bell's switch reads this session's settings: it goes with them.
+    Binder::setAlarmSwitch({});
+}
 
 bool Application::start() { return m_session->Main() == Session::StartResult::Running; }
 

@@ -25,6 +25,12 @@ class ContractView;
 class WorkSchedulesView;
 class ReprintView;
 class SalesView;
+class TermsView;
+class WorkOrdersView;
+class InvoiceView;
+class CreateView;
+class BlockView;
+class AppointmentsView;
 
 // The program on the desktop: the real platform, the session and one view per screen.
 class Application {
@@ -62,6 +68,12 @@ private:
     std::unique_ptr<WorkSchedulesView> m_workSchedules;
     std::unique_ptr<ReprintView> m_reprint;
     std::unique_ptr<SalesView> m_sales;
+    std::unique_ptr<TermsView> m_terms;
+    std::unique_ptr<WorkOrdersView> m_workOrders;
+    std::unique_ptr<InvoiceView> m_invoice;
+    std::unique_ptr<CreateView> m_create;
+    std::unique_ptr<BlockView> m_block;
+    std::unique_ptr<AppointmentsView> m_appointments;
 };
 
 // The resources of the view library (pictures); a static library must ask for them.

@@ -41,6 +41,7 @@ QFont QtPageSurface::toQFont(const PrintFont& font) {
     f.setPointSizeF(font.size > 0 ? font.size : 10);
     f.setBold(font.bold);
     f.setUnderline(font.underline);
+    f.setItalic(font.italic);
     // Widths must add up character by character, as the layouts that right-align figures assume.
     f.setKerning(false);
     f.setHintingPreference(QFont::PreferNoHinting);
@@ -62,7 +63,7 @@ double QtPageSurface::unit() const {
 }
 
 const QtPageSurface::Metrics& QtPageSurface::metricsOf(const PrintFont& font) {
-    const auto key = std::make_tuple(font.name, font.size, font.bold, font.underline);
+    const auto key = std::make_tuple(font.name, font.size, font.bold, font.underline, font.italic);
     auto it = m_metrics.find(key);
     if (it == m_metrics.end()) {
         const QFont f = toQFont(font);

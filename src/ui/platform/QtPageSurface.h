@@ -64,7 +64,7 @@ private:
 
     QPrinter& m_printer;
     QPainter m_painter;
-    std::map<std::tuple<QString, double, bool, bool>, Metrics> m_metrics;
+    std::map<std::tuple<QString, double, bool, bool, bool>, Metrics> m_metrics;
 };
 
 } // namespace ostrel::ui

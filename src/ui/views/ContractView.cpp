@@ -154,8 +154,9 @@ ContractView::ContractView(Session& session, frmContract& screen)
     dates->addWidget(calendar);
     dates->addStretch(1);
     terms->addLayout(dates, 1);
-    left->addLayout(terms, 1);
+    left->addLayout(terms);
     left->addLayout(serviceFrames(this));
+    left->addStretch(1);
     auto* buttons = new QGridLayout;
     QPushButton* build = button(QStringLiteral("cmdGeneric"), this);
     QPushButton* create = button(QStringLiteral("cmdAddServicetoBody"), this);

@@ -1,0 +1,159 @@
+#include "frmWorkOrders.h"
+
+#include "scheduling/SlotArithmetic.h"
+#include "shell/Session.h"
+#include "store/DiskRoutines.h"
+#include "store/Money.h"
+#include "store/StoreError.h"
+#include "util/VbText.h"
+
+namespace ostrel {
+
+namespace {
+
+const QString kAppointmentsFolder = QStringLiteral("/Appointments");
+
+// Columns of the overview.
+enum OverviewColumn { kSlipName, kDate, kAccount, kCustomer, kPointOfServiceName, kPointOfService, kStatus };
+
+} // namespace
+
+void frmWorkOrders::LoadWorkorders() {
+    lstWorkorders.Clear();
+    cmdWorkOrders[3].enabled = false;
+    int findBy = 0;
+    for (int i = 0; i <= 2; ++i)
+        if (optFindBy[i].value) {
+            findBy = i;
+            break;
+        }
+
+    QStringList names;
+    for (const QString& file : m_session.root.list(kAppointmentsFolder))
+        if (file.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) names << file.left(file.size() - 4);
+    if (names.isEmpty()) return;
+    const bool overLimit = names.size() > kMostSlips;
+    if (overLimit) names = names.mid(0, kMostSlips);
+
+    bool added = false;
+    for (const QString& name : names) {
+        const AppointmentSlip slip = ReadSlipHeader(m_session.disk, name);
+        if (PurgeMode) {
+            lstWorkorders.AddItem(slip.SlipName);
+            continue;
+        }
+        if (!OverviewBuilt) {
+            addOverviewRow(slip);
+            added = true;
+            if (slip.SlipDate < m_session.today()) cmdWorkOrders[8].enabled = true;
+        }
+        const bool onDate = slip.SlipDate == DTPicker1.value;
+        const bool atPlace = pointOfServiceSelected(slip.SlipPointOfService);
+        if ((findBy == 0 && onDate) || (findBy == 1 && atPlace) || (findBy == 2 && onDate && atPlace))
+            lstWorkorders.AddItem(slip.SlipName);
+    }
+    if (!PurgeMode && added) {
+        OverviewBuilt = true;
+        fgOverview.SetRows(fgOverview.Rows() - 1); // the spare row
+        fraOverview.visible = true;
+    }
+    if (overLimit)
+        m_session.ShowMessage(QStringLiteral("The folder %1 holds more than %2 appointments.").arg(kAppointmentsFolder)
+                                      .arg(kMostSlips) +
+                                  u'\n' +
+                                  QStringLiteral("Only the first %1 are listed: purge the expired ones.")
+                                      .arg(kMostSlips),
+                              QStringLiteral("Too Many Appointments"));
+}
+
+void frmWorkOrders::addOverviewRow(const AppointmentSlip& slip) {
+    // The grid always keeps one spare row at its end while it is being filled.
+    const int r = fgOverview.Rows() - 1;
+    fgOverview.SetTextMatrix(r, kSlipName, slip.SlipName);
+    fgOverview.SetTextMatrix(r, kDate, dateText(slip.SlipDate));
+    fgOverview.SetTextMatrix(r, kAccount, slip.Customer[0]);
+    fgOverview.SetTextMatrix(r, kCustomer, slip.Customer[1]);
+    fgOverview.SetTextMatrix(r, kPointOfServiceName, lstAssignments.List(slip.SlipPointOfService - 1));
+    fgOverview.SetTextMatrix(r, kPointOfService, QString::number(slip.SlipPointOfService));
+    fgOverview.SetTextMatrix(r, kStatus, slip.Status);
+    fgOverview.SetRows(r + 2);
+}
+
+bool frmWorkOrders::pointOfServiceSelected(int number) const {
+    return number >= 1 && lstAssignments.listIndex == number - 1;
+}
+
+QStringList frmWorkOrders::selectedEntries() const {
+    QStringList out;
+    if (lstWorkorders.listIndex >= 0 && lstWorkorders.listIndex < lstWorkorders.ListCount())
+        out << lstWorkorders.List(lstWorkorders.listIndex);
+    return out;
+}
+
+void frmWorkOrders::loadCommand() {
+    if (!optFindBy[0].value && lstAssignments.listIndex < 0) {
+        m_session.platform.dialogs.MsgBox(QStringLiteral("Select a Point of Service before loading Work Orders"));
+        return;
+    }
+    Reset();
+    LoadWorkorders();
+    Label1[2].visible = true;
+    imgSave[1].enabled = true;
+}
+
+void frmWorkOrders::fgOverview_Click() {
+    const int r = fgOverview.row;
+    if (r < 1 || r >= fgOverview.Rows() || fgOverview.TextMatrix(r, kSlipName).isEmpty()) return;
+    fraInstructions.visible = false;
+    lstWorkorders.Clear();
+    const QDate date = QDate::fromString(fgOverview.TextMatrix(r, kDate), QStringLiteral("M/d/yyyy"));
+    if (date < m_session.today()) {
+        m_session.platform.dialogs.MsgBox(QStringLiteral("You can not modify this Appointment") + u'\n' +
+                                          QStringLiteral("The Appointment date has passed"));
+        return;
+    }
+    DTPicker1.value = date;
+    const int entry = fgOverview.TextMatrix(r, kPointOfService).toInt() - 1;
+    if (entry >= 0 && entry < lstAssignments.ListCount()) lstAssignments.SetListIndex(entry);
+    optFindBy_Click(2);
+    lstWorkorders.AddItem(fgOverview.TextMatrix(r, kSlipName));
+    fraOverview.visible = false;
+    lstWorkorders.SetListIndex(0);
+    lstWorkorders_Click();
+    Label1[2].visible = false;
+    imgSave[1].enabled = false;
+}
+
+void frmWorkOrders::lstWorkorders_Click() {
+    if (lstWorkorders.listIndex < 0 || lstWorkorders.listIndex >= lstWorkorders.ListCount()) return;
+    cmdWorkOrders_Click(5);
+}
+
+void frmWorkOrders::loadSelected() {
+    ServicesAdded = false;
+    emptyGrid(fgServices);
+    emptyGrid(fgItemsAdded);
+    const QStringList entries = selectedEntries();
+    for (const QString& name : entries) {
+        m_slip = ReadSlip(m_session.disk, name);
+        if (!m_session.disk.FileExists(servicesFileName(name)))
+            throw StoreError(servicesFileName(name),
+                             QStringLiteral("The appointment has no list of services, so its work order cannot be "
+                                            "loaded."));
+        for (const SlipService& s : ReadServicesFile(m_session.disk, name))
+            appendRow(fgServices, {s.name, BuildTime(s.slots), FormatMoney(s.cost), QString::number(s.slots)});
+    }
+    if (!entries.isEmpty()) cmdWorkOrders[6].enabled = true;
+
+    emptyGrid(fgPicklist);
+    const bool parts = !entries.isEmpty() && SoldItemsFileExists(m_session.disk, entries.first());
+    if (parts)
+        for (const SlipSoldItem& item : ReadSoldItemsFile(m_session.disk, entries.first()))
+            appendRow(fgPicklist, {item.quantity, item.description});
+    ckPick.enabled = parts;
+    cmdWorkOrders[12].enabled = parts;
+    cmdWorkOrders[7].enabled = true;
+    cmdWorkOrders[9].enabled = true;
+}
+
+} // namespace ostrel

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "binder/ScreenView.h"
+
+namespace ostrel {
+class Session;
+class frmWorkOrders;
+} // namespace ostrel
+
+namespace ostrel::ui {
+
+// The work order screen: how to find the slips on the left, the slip's services and the step
+// frames (overview, services to add, print instructions, pick list) on the right.
+class WorkOrdersView : public ScreenView {
+    Q_OBJECT
+public:
+    WorkOrdersView(Session& session, frmWorkOrders& screen);
+
+private:
+    QWidget* findColumn();
+    QWidget* workColumn();
+    void wire();
+    void showDate();
+
+    frmWorkOrders& m_screen;
+    bool m_showingDate = false;
+};
+
+} // namespace ostrel::ui

@@ -1,0 +1,79 @@
+#pragma once
+
+// The whole program on a data folder, driven through its real windows as a person drives them.
+#include "TestDataRoot.h"
+#include "UiEvents.h"
+#include "app/Application.h"
+
+#include <QAbstractButton>
+#include <QPushButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace ostrel::test {
+
+// Answers each box the program puts up with its default button, as a hurried person would, and
+// keeps what the boxes said.
+class BoxAnswerer {
+public:
+    BoxAnswerer() {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            said << box->text();
+            if (QAbstractButton* b = box->defaultButton()) b->click();
+            else box->done(0);
+        });
+        m_timer.start(10);
+    }
+    QStringList said;
+
+private:
+    QTimer m_timer;
+};
+
+// The whole program on a data folder, with its real platform, as the executable starts it.
+struct ProgramWindows : ::testing::Test {
+    TestDataRoot t;
+    BoxAnswerer boxes;
+    std::unique_ptr<ui::Application> app;
+
+    void start() {
+        // The executable lives in its data folder under the program's name.
+        t.writeBytes("/OstrelAppointmentScheduler", QByteArray("\x7f" "ELF"));
+        app = std::make_unique<ui::Application>(AppInfo(t.path() + QStringLiteral("/OstrelAppointmentScheduler")));
+        ASSERT_TRUE(app->start());
+        test::settle();
+    }
+    static QWidget* window(const QString& formName) {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == formName) return w;
+        ADD_FAILURE() << "no window " << formName.toStdString();
+        return nullptr;
+    }
+    static bool shown(const QString& formName) {
+        QWidget* w = window(formName);
+        return w && w->isVisible();
+    }
+    template <typename W> static W* child(const QString& formName, const QString& name) {
+        QWidget* w = window(formName);
+        W* c = w ? w->findChild<W*>(name) : nullptr;
+        EXPECT_NE(c, nullptr) << name.toStdString();
+        return c;
+    }
+    // The frame's close button, as the window manager delivers it.
+    static void closeByFrame(QWidget* w) {
+        QCloseEvent e;
+        QSpontaneKeyEvent::setSpontaneous(&e);
+        QCoreApplication::instance()->notify(w, &e);
+        test::settle();
+    }
+};
+
+} // namespace ostrel::test
