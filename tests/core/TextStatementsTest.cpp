@@ -92,6 +92,28 @@ TEST(FieldRead, ReadsBooleansDatesNullAndEmpty) {
     EXPECT_TRUE(r.atEnd());
 }
 
+TEST(FieldRead, DatesReadAsTheDateParserReadsThemInEveryForm) {
+    const auto parsed = [](const QByteArray& text) {
+        QDate d = QDate::fromString(QString::fromLatin1(text.left(10)), u"yyyy-MM-dd");
+        if (!d.isValid()) d = QDate::fromString(QString::fromLatin1(text), u"M/d/yyyy");
+        return d;
+    };
+    for (QDate d(1999, 1, 1); d <= QDate(2031, 12, 31); d = d.addDays(1)) {
+        const QByteArray text = d.toString(Qt::ISODate).toLatin1();
+        TextReader r("#" + text + "#\r\n", "/x");
+        ASSERT_EQ(r.readDate(), d) << text.constData();
+    }
+    for (const QByteArray text : {QByteArray("2026-02-30"), QByteArray("2026-13-01"), QByteArray("0000-01-01"),
+                                  QByteArray("2026-1-5"), QByteArray("2026-11-27 10:30:00"), QByteArray("11/27/2026"),
+                                  QByteArray("2026-11-2x"), QByteArray("+026-11-27"), QByteArray("2026/11/27"),
+                                  QByteArray("12/31/1999"), QByteArray("")}) {
+        TextReader r("#" + text + "#\r\n", "/x");
+        EXPECT_EQ(r.readDate(), parsed(text)) << text.constData();
+    }
+    TextReader cut("#2026-02-30#\r\n", "/x");
+    EXPECT_FALSE(cut.readDate().isValid());
+}
+
 TEST(FieldRead, TrueReadIntoANumberIsMinusOne) {
     TextReader r("#TRUE#,#FALSE#\r\n", "/x");
     EXPECT_EQ(r.readInteger(), -1);
