@@ -30,10 +30,13 @@ namespace ostrel::ui {
 
 void InitResources() { initUiResources(); }
 
-Application::Application(AppInfo app)
+Application::Application(AppInfo app, ApplicationOptions options)
     : m_app(std::move(app)), m_lockRoot(m_app.path()), m_dialogs(m_app),
       m_instance(m_lockRoot, m_app.programName()),
-      m_platform{m_dialogs, m_clock, m_instance, m_browser, m_app, m_serial, m_printDialogs} {
+      m_printDialogs(options.choosePrinter ? std::move(options.choosePrinter)
+                                           : QtPrintDialogs::Chooser(&QtPrintDialogs::ExecPrintDialog)),
+      m_platform{m_dialogs,  options.clock ? *options.clock : m_clock, m_instance, m_browser, m_app, m_serial,
+                 m_printDialogs} {
     InitResources();
     m_session = std::make_unique<Session>(m_lockRoot.root(), m_platform);
     m_session->endProcess = [] { QCoreApplication::quit(); };
