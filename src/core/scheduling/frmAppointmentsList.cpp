@@ -33,8 +33,7 @@ QStringList frmAppointments::listSlipFiles() {
     for (const DataRoot::Listed& e : m_session.root.entries(kAppointmentsFolder))
         if (e.kind == DataRoot::Kind::File && e.name.endsWith(QStringLiteral(".txt"), Qt::CaseInsensitive))
             files.append(e.name);
-    std::sort(files.begin(), files.end(),
-              [](const QString& a, const QString& b) { return QString::compare(a, b, Qt::CaseInsensitive) < 0; });
+    SortIgnoringCase(files);
     return files;
 }
 
