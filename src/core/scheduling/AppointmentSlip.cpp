@@ -2,6 +2,7 @@
 
 #include "store/DiskRoutines.h"
 #include "store/StoreError.h"
+#include "util/VbText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -104,8 +105,7 @@ QStringList ListSlipFiles(DiskRoutines& disk) {
         if (!e.name.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) continue;
         names << e.name.chopped(4);
     }
-    std::sort(names.begin(), names.end(),
-              [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+    SortIgnoringCase(names);
     return names;
 }
 

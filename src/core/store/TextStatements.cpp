@@ -81,6 +81,15 @@ double TextField::toNumber() const {
         if (raw == "#FALSE#") return 0;
     }
     const QByteArray t = raw.trimmed();
+    // Whole numbers, the most common field, without the general conversion (exact to 15 digits).
+    const bool minus = t.startsWith('-');
+    if (const qsizetype digits = t.size() - (minus ? 1 : 0); digits > 0 && digits <= 15) {
+        qint64 n = 0;
+        qsizetype i = minus ? 1 : 0;
+        for (; i < t.size() && t[i] >= '0' && t[i] <= '9'; ++i)
+            n = n * 10 + (t[i] - '0');
+        if (i == t.size() && !(minus && n == 0)) return minus ? -static_cast<double>(n) : static_cast<double>(n);
+    }
     bool ok = false;
     const double d = t.toDouble(&ok);
     if (ok) return d;
