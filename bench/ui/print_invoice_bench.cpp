@@ -1,20 +1,8 @@
 // A 100-line invoice printed to a PDF file through the same path as a print dialog's PDF choice:
 // frame, letterhead, header, five pages of body, totals and the writing of the file. Target: the
 // page under 200 ms.
-#include "BenchUtil.h"
+#include "PrintBench.h"
 #include "invoicing/InvoicePage.h"
-#include "platform/Browser.h"
-#include "platform/Clock.h"
-#include "platform/Dialogs.h"
-#include "platform/QtPrintDialogs.h"
-#include "printing/PrinterRoutines.h"
-#include "setup/SetupSettings.h"
-#include "store/DataRoot.h"
-#include "store/DiskRoutines.h"
-
-#include <QFileInfo>
-#include <QGuiApplication>
-#include <QTemporaryDir>
 
 using namespace ostrel;
 
@@ -22,29 +10,6 @@ namespace {
 
 constexpr int kLines = 100;
 constexpr int kRuns = 9;
-
-class FixedClock : public Clock {
-public:
-    QDateTime now() const override { return QDateTime(QDate(2026, 3, 4), QTime(10, 0)); }
-};
-
-// The report asks no question; any box would be a failure worth seeing.
-class FailingDialogs : public Dialogs {
-public:
-    QString programTitle() const override { return QStringLiteral("OstrelAppointmentScheduler"); }
-
-protected:
-    MsgBoxResult showMsgBox(const MsgBoxRequest& request) override {
-        qFatal("unexpected box: %s", qPrintable(request.prompt));
-    }
-    void beep() override {}
-    std::optional<QString> openFileName(const OpenFileRequest&) override { return std::nullopt; }
-    std::optional<Colour> chooseColour(Colour, const QString&) override { return std::nullopt; }
-    std::optional<FontChoice> chooseFont(const FontChoice&, const QString&) override { return std::nullopt; }
-    std::optional<QString> inputBox(const QString&, const QString&, const QString&) override {
-        return std::nullopt;
-    }
-};
 
 InvoicePageContents invoice() {
     InvoicePageContents page;
@@ -69,30 +34,14 @@ InvoicePageContents invoice() {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
-    QTemporaryDir dir;
-    DataRoot root(dir.path());
-    DiskRoutines disk(root);
-    SetupSettings settings;
-    settings.business.txtBusiness = {
-        "Prairie Comfort Heating", "1207 Wabash Ave", "Suite B", "Springfield", "IL", "62704", "217-555-0142",
-        "Fax 217-555-0143",        "FEIN 37-1234567"};
-    settings.colors.ckColor = 1;
-    FixedClock clock;
-    FailingDialogs dialogs;
-    const QString pdf = dir.filePath(QStringLiteral("invoice.pdf"));
-    ui::QtPrintDialogs printDialogs(ui::QtPrintDialogs::PdfFileChooser(pdf));
-    PrinterRoutines printer(printDialogs, dialogs, disk, settings, clock);
+    bench::PrintBench world(argc, argv, QStringLiteral("invoice.pdf"));
     const InvoicePageContents page = invoice();
 
     const double ms = bench::medianMs(kRuns, [&] {
-        printer.ShowPrinterDialog();
-        printer.InitPrinter(QStringLiteral("Portrait"), settings.colors.ckColor);
-        PrintInvoicePage(printer, page);
+        world.printer.ShowPrinterDialog();
+        world.printer.InitPrinter(QStringLiteral("Portrait"), world.settings.colors.ckColor);
+        PrintInvoicePage(world.printer, page);
     });
-    bench::report("invoice of 100 lines to PDF (median)", ms);
-    std::printf("%-58s %10lld bytes\n", "PDF size", static_cast<long long>(QFileInfo(pdf).size()));
-    std::printf("%-58s %10s\n", "target", "200 ms");
+    world.report("invoice of 100 lines to PDF (median)", ms, "200 ms");
     return 0;
 }

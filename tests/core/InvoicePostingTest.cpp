@@ -5,6 +5,7 @@
 #include "invoicing/PostingRecords.h"
 #include "printing/ConfirmedPrint.h"
 #include "scheduling/AppointmentSlip.h"
+#include "store/StoreError.h"
 
 using namespace ostrel;
 using ostrel::test::InvoiceScreen;
@@ -438,4 +439,36 @@ TEST(PostingRecords, EachRecordSitsAtItsOffsets) {
     TaxRecord tax{"Sales Tax", "11/22/2026", "20260001", "1.6492"};
     EXPECT_EQ(tax.toRecord().bytes().size(), 75);
     EXPECT_EQ(tax.toRecord().bytes().mid(65), padded("1.6492", 10));
+}
+
+TEST(PostingRecords, TwoTaxesTogetherLeaveTheBytesOfOneAfterTheOther) {
+    // A whole journal, and one whose last record is cut short (less than half, then more than half).
+    for (const QByteArray& tail : {QByteArray(), QByteArray(30, 'x'), QByteArray(40, 'y')}) {
+        const QByteArray before = TaxRecord{"Old", "1/2/2026", "20260001", "1.5"}.toRecord().bytes().repeated(3) + tail;
+        ostrel::test::TestDataRoot one, both;
+        one.writeBytes("/TaxRecords.txt", before);
+        both.writeBytes("/TaxRecords.txt", before);
+        const QDate day(2026, 11, 22);
+        AddTaxRecord(one.disk(), "Sales Tax", "20260002", day, Money::fromTenThousandths(16492));
+        AddTaxRecord(one.disk(), "Surcharge", "20260002", day, Money::fromTenThousandths(25000));
+        AddTaxRecords(both.disk(),
+                      {{"Sales Tax", Money::fromTenThousandths(16492)}, {"Surcharge", Money::fromTenThousandths(25000)}},
+                      "20260002", day);
+        EXPECT_EQ(both.readBytes("/TaxRecords.txt"), one.readBytes("/TaxRecords.txt")) << tail.size();
+        EXPECT_EQ(both.readBytes("/TaxRecords.txt").size() % TaxRecord::kLength, 0);
+    }
+}
+
+TEST(PostingRecords, TwoTaxesAtTheLastCountableRecordWriteTheFirstAndRefuseTheSecond) {
+    ostrel::test::TestDataRoot t;
+    const QByteArray record = TaxRecord{"Old", "1/2/2026", "20260001", "1.5"}.toRecord().bytes();
+    t.writeBytes("/TaxRecords.txt", record.repeated(32767));
+    EXPECT_THROW(AddTaxRecords(t.disk(),
+                               {{"Sales Tax", Money::fromTenThousandths(16492)},
+                                {"Surcharge", Money::fromTenThousandths(25000)}},
+                               "20260002", QDate(2026, 11, 22)),
+                 StoreError);
+    const QByteArray after = t.readBytes("/TaxRecords.txt");
+    ASSERT_EQ(after.size(), 32768 * TaxRecord::kLength);
+    EXPECT_EQ(TaxRecord::fromRecord(Record(after.right(TaxRecord::kLength))).Heading.trimmed(), "Sales Tax");
 }

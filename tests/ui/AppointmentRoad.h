@@ -5,6 +5,7 @@
 // these leave off.
 #include "CatalogueSamples.h"
 #include "ProgramWindows.h"
+#include "ShippedData.h"
 #include "binder/ClickableImage.h"
 #include "catalogue/ServiceRecord.h"
 
@@ -65,6 +66,16 @@ inline void chooseInCombo(QComboBox* combo, const QString& text) {
 
 } // namespace road
 
+// The data folder as the program is installed: its two shipped files and the folders that no
+// routine of the program makes.
+inline void LayInstalledTree(TestDataRoot& t) {
+    for (const char* name : {"StatesList.txt", "GenericContract.rtf"})
+        t.writeBytes(QLatin1Char('/') + QLatin1String(name), shippedDataFile(QLatin1String(name)));
+    for (const char* folder : {"/CompletedInvoices", "/OstrelInvoicer", "/OstrelInvoicer/Narratives", "/Templates",
+                               "/Templates/Contracts"})
+        t.makeDir(QLatin1String(folder));
+}
+
 // The catalogue the road sells from, written by the catalogue's own record writers: Tune Up 1:00
 // at $45.00, Inspection 0:15 at $20.00; the item Filter in Parts at $12.50.
 inline void WriteRoadCatalogue(TestDataRoot& t) {
@@ -76,13 +87,17 @@ inline void WriteRoadCatalogue(TestDataRoot& t) {
 // Welcome, the logo into Setup, the business name and telephone, the Points of Service one by one,
 // Quit: the menu comes up.
 inline void FirstRunThroughSetup(ProgramWindows& w, const QString& business, const QString& telephone,
-                                 const QStringList& pointsOfService) {
+                                 const QStringList& pointsOfService, bool associateSales = false) {
     road::press("frmSplash", QStringLiteral("cmdContinue"));
     test::click(ProgramWindows::child<ui::ClickableImage>("frmSplash", "Image1(1)"));
     test::settle();
     ASSERT_TRUE(w.shown("frmSetup"));
     road::type(ProgramWindows::child<QLineEdit>("frmSetup", "txtBusiness(0)"), business);
     road::type(ProgramWindows::child<QLineEdit>("frmSetup", "txtBusiness(6)"), telephone);
+    if (associateSales) {
+        test::click(ProgramWindows::child<QRadioButton>("frmSetup", "optBusinessType(1)"));
+        test::settle();
+    }
     ProgramWindows::child<QTabWidget>("frmSetup", "tabInfo")->setCurrentIndex(4);
     test::settle();
     auto* areas = ProgramWindows::child<QComboBox>("frmSetup", "cboAssignments");
@@ -95,13 +110,63 @@ inline void FirstRunThroughSetup(ProgramWindows& w, const QString& business, con
     ASSERT_TRUE(w.shown("frmStartup"));
 }
 
-// "Create an Appointment" on the menu, by a double click on its button.
-inline void OpenCreateAnAppointment(ProgramWindows& w) {
-    auto* option = ProgramWindows::child<QRadioButton>("frmStartup", "optMainMenuSub(5)");
+// A routine of the main menu, by a double click on its button: the window of `form` comes up.
+inline void OpenRoutine(ProgramWindows& w, int routine, const char* form) {
+    auto* option = ProgramWindows::child<QRadioButton>("frmStartup", QStringLiteral("optMainMenuSub(%1)").arg(routine));
     ASSERT_NE(option, nullptr);
+    ASSERT_TRUE(option->isVisible()) << routine;
     test::doubleClick(option);
     test::settle();
-    ASSERT_TRUE(w.shown("frmNewCustomer"));
+    ASSERT_TRUE(w.shown(QLatin1String(form))) << form;
+}
+
+// "Create an Appointment" on the menu.
+inline void OpenCreateAnAppointment(ProgramWindows& w) { OpenRoutine(w, 5, "frmNewCustomer"); }
+
+// A click on a cell of a table, as a person does it.
+inline void ClickCell(const char* form, const QString& table, int row, int column) {
+    auto* grid = ProgramWindows::child<QTableWidget>(QLatin1String(form), table);
+    ASSERT_NE(grid, nullptr);
+    QTableWidgetItem* cell = grid->item(row, column);
+    ASSERT_NE(cell, nullptr) << table.toStdString() << " " << row << "," << column;
+    grid->scrollToItem(cell);
+    test::click(grid->viewport(), grid->visualItemRect(cell).center());
+    test::settle();
+}
+
+// " Print &Work Order(s)": today's appointment from the list, out of the overview, Prepare, and
+// Print Documents; the work order's question is answered Yes.
+inline void PrintTheWorkOrder(ProgramWindows& w, const QString& slip) {
+    OpenRoutine(w, 9, "frmWorkOrders");
+    road::chooseInList(ProgramWindows::child<QListWidget>("frmWorkOrders", "lstWorkorders"), slip);
+    road::press("frmWorkOrders", QStringLiteral("cmdWorkOrders(14)"));
+    road::press("frmWorkOrders", QStringLiteral("cmdWorkOrders(9)"));
+    road::press("frmWorkOrders", QStringLiteral("cmdWorkOrders(2)"));
+}
+
+// " &Invoice a Completed Appointment": the routine comes up chosen; the slip's row, then Create
+// Invoice: the invoice screen opens on it.
+inline void HandTheSlipToInvoicing(ProgramWindows& w) {
+    OpenRoutine(w, 2, "frmAppointments");
+    ClickCell("frmAppointments", QStringLiteral("fgAppointments"), 0, 2);
+    road::press("frmAppointments", QStringLiteral("cmdAppointments(2)"));
+    ASSERT_TRUE(w.shown("frmInvoice"));
+}
+
+// "Continue......", Print, "Finalize Invoice", then print it: the question is answered Yes and the
+// invoice is posted.
+inline void FinalizeAndPrintTheInvoice() {
+    road::press("frmInvoice", QStringLiteral("cmdInvoice(0)"));
+    road::press("frmInvoice", QStringLiteral("cmdPrint"));
+    road::press("frmInvoice", QStringLiteral("cmdInvoice(9)"));
+    road::press("frmInvoice", QStringLiteral("cmdInvoiceContinue"));
+}
+
+// "Reprint Completed Invoices": the invoice's row, then RePrint.
+inline void ReprintTheInvoice(ProgramWindows& w) {
+    OpenRoutine(w, 12, "frmReprint");
+    ClickCell("frmReprint", QStringLiteral("fgReceivables"), 0, 0);
+    road::press("frmReprint", QStringLiteral("cmdPrint"));
 }
 
 struct RoadCustomer {

@@ -1,6 +1,7 @@
 #pragma once
 
 // The whole program on a data folder, driven through its real windows as a person drives them.
+#include "FakeClock.h"
 #include "TestDataRoot.h"
 #include "UiEvents.h"
 #include "app/Application.h"
@@ -10,7 +11,12 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <QPrinter>
+#include <QTemporaryDir>
 #include <QTimer>
+
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -18,8 +24,8 @@
 
 namespace ostrel::test {
 
-// Answers each box the program puts up with its default button, as a hurried person would, and
-// keeps what the boxes said.
+// Answers each box the program puts up as a hurried person would: with its default button, unless
+// the test named another answer for a box whose text starts so. Keeps what the boxes said.
 class BoxAnswerer {
 public:
     BoxAnswerer() {
@@ -27,27 +33,57 @@ public:
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box) return;
             said << box->text();
+            for (const auto& [start, button] : m_answers)
+                if (box->text().startsWith(start)) {
+                    box->button(button)->click();
+                    return;
+                }
             if (QAbstractButton* b = box->defaultButton()) b->click();
             else box->done(0);
         });
         m_timer.start(10);
     }
+    void answer(const QString& start, QMessageBox::StandardButton button) { m_answers.emplace_back(start, button); }
     QStringList said;
 
 private:
     QTimer m_timer;
+    std::vector<std::pair<QString, QMessageBox::StandardButton>> m_answers;
+};
+
+// Every print job into a PDF file of its own, job-1.pdf on, as a person choosing "Print to File".
+class PdfJobs {
+public:
+    ui::QtPrintDialogs::Chooser chooser() {
+        return [this](QPrinter& printer) {
+            files << m_dir.filePath(QStringLiteral("job-%1.pdf").arg(files.size() + 1));
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(files.back());
+            return true;
+        };
+    }
+    QStringList files;
+
+private:
+    QTemporaryDir m_dir;
 };
 
 // The whole program on a data folder, with its real platform, as the executable starts it.
 struct ProgramWindows : ::testing::Test {
     TestDataRoot t;
     BoxAnswerer boxes;
+    // What stands in for the desktop's clock and print dialog when a test puts them in `options`
+    // before start(); they outlive the program.
+    FakeClock clock;
+    PdfJobs printed;
+    ui::ApplicationOptions options;
     std::unique_ptr<ui::Application> app;
 
     void start() {
         // The executable lives in its data folder under the program's name.
         t.writeBytes("/OstrelAppointmentScheduler", QByteArray("\x7f" "ELF"));
-        app = std::make_unique<ui::Application>(AppInfo(t.path() + QStringLiteral("/OstrelAppointmentScheduler")));
+        app = std::make_unique<ui::Application>(AppInfo(t.path() + QStringLiteral("/OstrelAppointmentScheduler")),
+                                                options);
         ASSERT_TRUE(app->start());
         test::settle();
     }

@@ -25,13 +25,17 @@ public:
     void PrintInvoice() {
         InvoiceFrame(m_invoice.draft ? QStringLiteral("DRAFT INVOICE") : QStringLiteral("INVOICE"), 0.4);
         PrintHeaderBlock();
-        if (m_invoice.remittance) {
+        if (m_invoice.remittance && !m_invoice.shipTo) {
             m_printer.SetFont(6, true, false);
             m_printer.SetPosition(3.0, 3.6);
             m_p.Print(kDetachText);
             m_printer.SetFont(10, false, false);
         }
         PrintBillTo();
+        if (m_invoice.shipTo) {
+            PrintShipToBlock(m_printer, *m_invoice.shipTo, m_invoice.today, m_invoice.usaStyle, m_narrative);
+            m_p.Print(QString());
+        }
         PrintBody();
         if (!m_invoice.draft) PrintTotals();
         m_p.EndDoc();

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "ShipToBlock.h"
+
+#include <QDate>
 #include <QString>
 #include <QVector>
 
 #include <array>
+#include <optional>
 
 namespace ostrel {
 
@@ -30,6 +34,10 @@ struct InvoicePageContents {
     // `handling` are left out when empty.
     QString subTotal, tax, tax2, total, extra, handling;
     QString taxHeading1, taxHeading2;
+    // A reprint adds where the goods went beside the bill-to address and leaves out the detach
+    // text; a first print has no ship-to block.
+    std::optional<ShipToBlock> shipTo;
+    QDate today; // decides how the ship-to block words a shipping date
 };
 
 // The layout's fixed marks, in twips.

@@ -5,6 +5,8 @@
 #include "store/Money.h"
 #include "store/StoreError.h"
 
+#include <limits>
+
 namespace ostrel {
 
 const QString SoldItemRecord::kFileName = QStringLiteral("/SoldItems.txt");
@@ -95,6 +97,23 @@ void AddTaxRecord(DiskRoutines& disk, const QString& heading, const QString& inv
                   Money amount) {
     appendRecords(disk, TaxRecord::kFileName, TaxRecord::kLength,
                   TaxRecord{heading, ShortDateText(date), invoiceNo, amount.plainText()}.toRecord().bytes());
+}
+
+void AddTaxRecords(DiskRoutines& disk, const QVector<std::pair<QString, Money>>& taxes, const QString& invoiceNo,
+                   const QDate& date) {
+    if (taxes.isEmpty()) return;
+    // Each put rewrites the whole file, so the records go in together. Where the 16-bit count would
+    // refuse a later record, they go one by one, so that refusal comes as it always did.
+    const qint64 count = disk.FileRecordCount(TaxRecord::kFileName, TaxRecord::kLength);
+    if (count + taxes.size() - 1 > std::numeric_limits<qint16>::max()) {
+        for (const auto& [heading, amount] : taxes)
+            AddTaxRecord(disk, heading, invoiceNo, date, amount);
+        return;
+    }
+    QByteArray records;
+    for (const auto& [heading, amount] : taxes)
+        records += TaxRecord{heading, ShortDateText(date), invoiceNo, amount.plainText()}.toRecord().bytes();
+    disk.PutRecords(TaxRecord::kFileName, TaxRecord::kLength, count + 1, records);
 }
 
 void AddSoldItems(DiskRoutines& disk, const QVector<SoldItemRecord>& items) {

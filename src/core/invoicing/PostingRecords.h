@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVector>
 
+#include <utility>
+
 namespace ostrel {
 
 class DiskRoutines;
@@ -83,6 +85,10 @@ void AddPaymentRecord(DiskRoutines& disk, const QString& account, const QString&
 // Appends one tax record.
 void AddTaxRecord(DiskRoutines& disk, const QString& heading, const QString& invoiceNo, const QDate& date,
                   Money amount);
+// One tax record per (heading, amount), in order: the same bytes as one AddTaxRecord after the
+// other, written in one step while the record count allows it.
+void AddTaxRecords(DiskRoutines& disk, const QVector<std::pair<QString, Money>>& taxes, const QString& invoiceNo,
+                   const QDate& date);
 // Appends the sold items after the last whole record of /SoldItems.txt, all in one step.
 void AddSoldItems(DiskRoutines& disk, const QVector<SoldItemRecord>& items);
 

@@ -35,8 +35,10 @@ frmInvoice::frmInvoice(Session& session, CatalogueLists& lists)
     ckPrepaid.caption = QStringLiteral("Invoice is Pre-Paid");
     ckFrom.caption = QStringLiteral("Print From Line Here");
     lblInvoiceNo.caption = QStringLiteral("Next Invoice No");
+    // The first block of the customer and the account's copy are held for posting, never shown.
     for (int i = 0; i <= 12; ++i)
-        lblCustomer[i];
+        lblCustomer[i].visible = i > 5;
+    lblAcct.visible = false;
 
     const std::pair<int, const char*> invoiceButtons[] = {
         {0, "Continue............."},      {1, "&Menu"},

@@ -225,8 +225,10 @@ void frmInvoice::PostInvoice() {
 
     // 7. Taxes.
     const TaxSettings& tax = m_session.settings.tax;
-    if (Tax1 > Money()) AddTaxRecord(disk, tax.cboTaxHeading1, txtInvoiceNo.text, today, Tax1);
-    if (Tax2 > Money()) AddTaxRecord(disk, tax.cboTaxHeading2, txtInvoiceNo.text, today, Tax2);
+    QVector<std::pair<QString, Money>> taxes;
+    if (Tax1 > Money()) taxes.append({tax.cboTaxHeading1, Tax1});
+    if (Tax2 > Money()) taxes.append({tax.cboTaxHeading2, Tax2});
+    AddTaxRecords(disk, taxes, txtInvoiceNo.text, today);
 
     // 8 and 9. The number stays in its box through the clearing.
     ClearInvoice();
@@ -241,6 +243,11 @@ void frmInvoice::UpdateStock() {
     const int count = disk.FileRecordCount(file, InventoriedItemRecord::kLength);
     QVector<Record> records = ReadAllRecords(disk, file, InventoriedItemRecord::kLength);
     if (records.size() > count) records.resize(count);
+    // The names, read once: every line is looked up among all of them.
+    QStringList names;
+    names.reserve(records.size());
+    for (const Record& r : records)
+        names.append(r.text(InventoriedItemRecord::kDescriptionOffset, InventoriedItemRecord::kDescriptionWidth).trimmed());
     bool changed = false;
     // Whatever was taken off before a line that cannot be read stays taken off.
     auto writeBack = [&] {
@@ -259,10 +266,9 @@ void frmInvoice::UpdateStock() {
             throw PostingStopped{};
         }
         const QString name = fgInvoice.TextMatrix(row, kDescription).trimmed();
-        for (Record& r : records) {
-            if (r.text(InventoriedItemRecord::kDescriptionOffset, InventoriedItemRecord::kDescriptionWidth).trimmed() !=
-                name)
-                continue;
+        for (qsizetype i = 0; i < records.size(); ++i) {
+            if (names[i] != name) continue;
+            Record& r = records[i];
             const float single = static_cast<float>(*quantity);
             double left = std::nearbyint(r.int16(InventoriedItemRecord::kOnHandOffset) - static_cast<double>(single));
             if (left < 0) {

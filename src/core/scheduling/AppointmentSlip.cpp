@@ -2,6 +2,7 @@
 
 #include "store/DiskRoutines.h"
 #include "store/StoreError.h"
+#include "util/VbText.h"
 
 #include <algorithm>
 
@@ -11,6 +12,7 @@ namespace {
 
 const QString kFileToPrint = QStringLiteral("/FileToPrint.txt");
 const QString kSlipCounter = QStringLiteral("/SlipCounter.txt");
+const QString kBackupSlipCounter = QStringLiteral("/Backup/SlipCounter.txt");
 
 // Reads one of a file's statements; a file that ends first is reported as cut short, by name.
 template <typename Read> auto readStatement(TextReader& in, const QString& what, Read read) {
@@ -34,6 +36,12 @@ QString withFileLineEnds(const QString& text) {
 }
 
 enum class CommentRead { Field, WholeLine };
+
+TextWriter slipCounterWriter(const SlipCounter& counter) {
+    TextWriter out;
+    out.write({counter.day, counter.number});
+    return out;
+}
 
 TextWriter slipWriter(const AppointmentSlip& slip, bool commentAsItStands = false) {
     TextWriter out;
@@ -94,8 +102,7 @@ QStringList ListSlipFiles(DiskRoutines& disk) {
         if (!e.name.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) continue;
         names << e.name.chopped(4);
     }
-    std::sort(names.begin(), names.end(),
-              [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+    SortIgnoringCase(names);
     return names;
 }
 
@@ -221,24 +228,31 @@ void LoadWorkSlipCounter(DiskRoutines& disk, const QDate& today, int assignmentC
     const QString todayText = QString::number(today.dayOfYear());
     counter.day = todayText;
     counter.number = 1;
+    std::optional<QByteArray> stored;
     // An absent counter with a copy in /Backup is restored by the existence test.
     if (disk.FileExists(kSlipCounter)) {
         TextReader in = disk.ReadTextFile(kSlipCounter);
+        stored = in.bytes();
         const QString day = readStatement(in, QStringLiteral("day"), [&] { return in.readString(); });
         const qint64 number = readStatement(in, QStringLiteral("running number"), [&] { return in.readInteger(); });
         if (day == todayText) counter.number = number;
     }
     counter.SlipId = counter.day + u'-' + QString::number(counter.number);
-    SaveSlipCounter(disk, counter);
+    // Every showing of the creation screen comes here; a counter that already holds these very bytes
+    // is not written again (a safe replace costs a flush to disk), but its backup is dropped as a save
+    // would drop it.
+    const TextWriter out = slipCounterWriter(counter);
+    if (stored && *stored == out.bytes())
+        disk.DeleteDataFile(kBackupSlipCounter);
+    else
+        disk.ReplaceTextFile(kSlipCounter, out);
     for (int i = 1; i <= assignmentCount; ++i) {
         if (disk.FileExists(appointmentFileName(SlipName(i, counter.SlipId)))) DeleteSlipFilesByNumber(disk, i);
     }
 }
 
 void SaveSlipCounter(DiskRoutines& disk, const SlipCounter& counter) {
-    TextWriter out;
-    out.write({counter.day, counter.number});
-    disk.ReplaceTextFile(kSlipCounter, out);
+    disk.ReplaceTextFile(kSlipCounter, slipCounterWriter(counter));
 }
 
 void UpcountSlipCounter(DiskRoutines& disk, SlipCounter& counter) {

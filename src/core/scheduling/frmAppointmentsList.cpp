@@ -29,12 +29,11 @@ bool listedBy(int routine, const AppointmentSlip& slip, const QDate& today) {
 
 QStringList frmAppointments::listSlipFiles() {
     QStringList files;
-    for (const QString& name : m_session.root.list(kAppointmentsFolder))
-        if (name.endsWith(QStringLiteral(".txt"), Qt::CaseInsensitive) &&
-            m_session.disk.PathIsFile(kAppointmentsFolder + u'/' + name))
-            files.append(name);
-    std::sort(files.begin(), files.end(),
-              [](const QString& a, const QString& b) { return QString::compare(a, b, Qt::CaseInsensitive) < 0; });
+    // One read of the folder gives each entry's kind, without a look-up per file.
+    for (const DataRoot::Listed& e : m_session.root.entries(kAppointmentsFolder))
+        if (e.kind == DataRoot::Kind::File && e.name.endsWith(QStringLiteral(".txt"), Qt::CaseInsensitive))
+            files.append(e.name);
+    SortIgnoringCase(files);
     return files;
 }
 

@@ -81,6 +81,15 @@ double TextField::toNumber() const {
         if (raw == "#FALSE#") return 0;
     }
     const QByteArray t = raw.trimmed();
+    // Whole numbers, the most common field, without the general conversion (exact to 15 digits).
+    const bool minus = t.startsWith('-');
+    if (const qsizetype digits = t.size() - (minus ? 1 : 0); digits > 0 && digits <= 15) {
+        qint64 n = 0;
+        qsizetype i = minus ? 1 : 0;
+        for (; i < t.size() && t[i] >= '0' && t[i] <= '9'; ++i)
+            n = n * 10 + (t[i] - '0');
+        if (i == t.size() && !(minus && n == 0)) return minus ? -static_cast<double>(n) : static_cast<double>(n);
+    }
     bool ok = false;
     const double d = t.toDouble(&ok);
     if (ok) return d;
@@ -111,6 +120,25 @@ bool TextField::toBoolean() const {
 QDate TextField::toDate() const {
     QByteArray t = raw.trimmed();
     if (t.startsWith('#') && t.endsWith('#') && t.size() >= 2) t = t.mid(1, t.size() - 2);
+    // The form the program writes, read by hand: the format parser costs more than the rest of a
+    // slip's read. Anything else, or no valid day, goes through the parser as before.
+    if (t.size() >= 10 && t[4] == '-' && t[7] == '-') {
+        int y = 0, m = 0, day = 0;
+        bool digits = true;
+        for (int i : {0, 1, 2, 3, 5, 6, 8, 9}) {
+            const char c = t[i];
+            if (c < '0' || c > '9') {
+                digits = false;
+                break;
+            }
+            int& part = i < 4 ? y : i < 7 ? m : day;
+            part = part * 10 + (c - '0');
+        }
+        if (digits && y >= 1) {
+            const QDate quick(y, m, day);
+            if (quick.isValid()) return quick;
+        }
+    }
     const QString s = QString::fromLatin1(t.left(10));
     QDate d = QDate::fromString(s, u"yyyy-MM-dd");
     if (!d.isValid()) d = QDate::fromString(QString::fromLatin1(t), u"M/d/yyyy");

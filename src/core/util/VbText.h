@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 
 namespace ostrel {
 
@@ -15,5 +16,8 @@ QString vbStr(qint64 n);
 
 // A date as text in messages, grids and captions: the short form of the United States, "11/22/2026".
 QString vbDate(const QDate& date);
+
+// Sorts in the order of a compare without regard to case (QString::compare, Qt::CaseInsensitive).
+void SortIgnoringCase(QStringList& names);
 
 } // namespace ostrel

@@ -31,10 +31,13 @@ namespace ostrel::ui {
 
 void InitResources() { initUiResources(); }
 
-Application::Application(AppInfo app)
+Application::Application(AppInfo app, ApplicationOptions options)
     : m_app(std::move(app)), m_lockRoot(m_app.path()), m_dialogs(m_app),
       m_instance(m_lockRoot, m_app.programName()),
-      m_platform{m_dialogs, m_clock, m_instance, m_browser, m_app, m_serial, m_printDialogs} {
+      m_printDialogs(options.choosePrinter ? std::move(options.choosePrinter)
+                                           : QtPrintDialogs::Chooser(&QtPrintDialogs::ExecPrintDialog)),
+      m_platform{m_dialogs,  options.clock ? *options.clock : m_clock, m_instance, m_browser, m_app, m_serial,
+                 m_printDialogs} {
     InitResources();
     // Every window shows the program's icon; the desktop entry of an installed copy shows the same.
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/icon.png")));

@@ -32,11 +32,18 @@ class CreateView;
 class BlockView;
 class AppointmentsView;
 
+// What may stand in for the desktop's own clock and print dialog, so a whole day of the program
+// can be run without a person: a fixed date, and every print into a file.
+struct ApplicationOptions {
+    Clock* clock = nullptr;                // the system clock when none
+    QtPrintDialogs::Chooser choosePrinter; // Qt's print dialog when none
+};
+
 // The program on the desktop: the real platform, the session and one view per screen.
 class Application {
 public:
     // The data root is the folder of the executable named in `app`.
-    explicit Application(AppInfo app);
+    explicit Application(AppInfo app, ApplicationOptions options = {});
     ~Application();
 
     // The start-up sequence; false when another copy runs and this one must end.

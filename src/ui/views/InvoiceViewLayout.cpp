@@ -115,9 +115,9 @@ QGroupBox* setupFrame(QWidget* w) {
         l->setAccessibleName(QStringLiteral("Customer line %1").arg(i - 5));
         customer->addWidget(l);
     }
-    // The first block and the account copy are kept by the screen; they stand hidden.
-    for (int i = 0; i <= 5; ++i) named<QLabel>(element("lblCustomer", i), box)->hide();
-    named<QLabel>(QStringLiteral("lblAcct"), box)->hide();
+    // The first block and the account copy are kept by the screen, hidden; they have no place here.
+    for (int i = 0; i <= 5; ++i) named<QLabel>(element("lblCustomer", i), box);
+    named<QLabel>(QStringLiteral("lblAcct"), box);
     customer->addStretch(1);
     grid->addLayout(customer, 0, 1);
 
