@@ -4,6 +4,7 @@
 #include "scheduling/WorkDays.h"
 #include "shell/Session.h"
 #include "shell/frmStartup.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -257,6 +258,6 @@ void frmWorkOrders::appendRow(Grid& grid, const QStringList& cells) {
         grid.SetTextMatrix(r, c, cells[c]);
 }
 
-QString frmWorkOrders::dateText(const QDate& date) const { return date.toString(QStringLiteral("M/d/yyyy")); }
+QString frmWorkOrders::dateText(const QDate& date) const { return ShortDateText(date); }
 
 } // namespace ostrel

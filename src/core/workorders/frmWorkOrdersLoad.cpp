@@ -6,6 +6,7 @@
 #include "store/Money.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -116,7 +117,7 @@ void frmWorkOrders::fgOverview_Click() {
     if (r < 1 || r >= fgOverview.Rows() || fgOverview.TextMatrix(r, kSlipName).isEmpty()) return;
     fraInstructions.visible = false;
     clearEntries();
-    const QDate date = QDate::fromString(fgOverview.TextMatrix(r, kDate), QStringLiteral("M/d/yyyy"));
+    const QDate date = ParseShortDate(fgOverview.TextMatrix(r, kDate));
     if (date < m_session.today()) {
         m_session.platform.dialogs.MsgBox(QStringLiteral("You can not modify this Appointment") + u'\n' +
                                           QStringLiteral("The Appointment date has passed"));

@@ -4,6 +4,7 @@
 #include "ScreenWindow.h"
 #include "scheduling/frmBlock.h"
 #include "shell/Session.h"
+#include "store/LocaleText.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
@@ -51,7 +52,7 @@ QTableWidget* table(const char* name, QWidget* parent) {
 
 QDateEdit* dateBox(const char* name, QWidget* parent) {
     auto* d = named<QDateEdit>(QLatin1String(name), parent);
-    d->setDisplayFormat(QStringLiteral("M/d/yyyy"));
+    d->setDisplayFormat(kShortDateFormat);
     d->setMinimumWidth(130);
     return d;
 }

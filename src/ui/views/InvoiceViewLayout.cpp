@@ -2,6 +2,7 @@
 
 #include "NamedWidgets.h"
 #include "invoicing/frmInvoice.h"
+#include "store/LocaleText.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -172,7 +173,7 @@ QGroupBox* servicesFrame(QWidget* w) {
     addRow(form, QStringLiteral("Price"), combo(element("cboPrice", 0), box));
     auto* date = named<QDateEdit>(QStringLiteral("DTPicker1"), box);
     date->setCalendarPopup(true);
-    date->setDisplayFormat(QStringLiteral("M/d/yyyy"));
+    date->setDisplayFormat(kShortDateFormat);
     addRow(form, QStringLiteral("Service Date"), date);
     row->addLayout(form, 1);
     auto* buttons = new QVBoxLayout;

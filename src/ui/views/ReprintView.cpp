@@ -4,6 +4,7 @@
 #include "ScreenWindow.h"
 #include "invoicing/frmReprint.h"
 #include "shell/Session.h"
+#include "store/LocaleText.h"
 
 #include <QAction>
 #include <QDateEdit>
@@ -112,7 +113,7 @@ QWidget* ReprintView::listPanel() {
     dateCaption->setWordWrap(true);
     auto* date = named<QDateEdit>(QStringLiteral("DTPicker1"), records);
     date->setCalendarPopup(true);
-    date->setDisplayFormat(QStringLiteral("M/d/yyyy"));
+    date->setDisplayFormat(kShortDateFormat);
     dateCaption->setBuddy(date);
     rv->addWidget(dateCaption);
     rv->addWidget(date);
