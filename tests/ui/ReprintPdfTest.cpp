@@ -1,13 +1,7 @@
 // The reprint and the invoices report of the records screen printed to a real PDF and read back:
 // the reprint stands where the first print stands, with the ship-to block beside the address.
 #include "../core/frmReprintTestFixture.h"
-#include "PdfText.h"
-#include "platform/QtPageSurface.h"
-#include "platform/QtPrintDialogs.h"
-
-#include <QFontMetricsF>
-#include <QPrinter>
-#include <QTemporaryDir>
+#include "PdfSession.h"
 
 using namespace ostrel;
 using namespace ostrel::ui;
@@ -15,22 +9,12 @@ using namespace ostrel::test;
 
 namespace {
 
-struct ReprintPdf : ::testing::Test {
-    TestDataRoot t;
-    FakePlatform fake{t.path()};
-    QTemporaryDir out;
-    QString pdf = out.filePath(QStringLiteral("reprint.pdf"));
-    QtPrintDialogs printDialogs{QtPrintDialogs::PdfFileChooser(pdf)};
-    Platform platform{fake.dialogs, fake.clock, fake.instance, fake.browser, fake.app, fake.serial, printDialogs};
-    Session session{t.path(), platform};
+struct ReprintPdf : ::testing::Test, PdfSession {
+    ReprintPdf() : PdfSession(QStringLiteral("reprint.pdf")) {}
     frmReprint& frm = session.AddScreen(ScreenId::frmReprint, std::make_unique<frmReprint>(session));
 
     void SetUp() override {
         if (!havePoppler()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
-        session.RegisterScreen(ScreenId::frmStartup, session.startup());
-        fake.clock.set(QDate(2026, 11, 22), QTime(9, 0));
-        session.settings.business.txtBusiness = {"Prairie Comfort Heating", "1207 Wabash Ave", "", "Springfield",
-                                                 "IL", "62704", "217-555-0142", "", ""};
         session.settings.tax.cboTaxHeading1 = "Sales Tax";
         session.settings.tax.cboTaxHeading2 = "City Tax";
         for (const char* d : {"/CompletedInvoices", "/OstrelInvoicer", "/OstrelInvoicer/Narratives"})
@@ -39,12 +23,6 @@ struct ReprintPdf : ::testing::Test {
                                                  std::tuple{"20260002", "11/21/2026", "Bob Ray"}})
             WriteInvoiceImage(t.disk(), MakeInvoiceImage(ReprintScreen::invoice(number, date, name)));
         session.ShowScreen(ScreenId::frmReprint);
-    }
-    double lineHeight(double size, bool bold) {
-        QPrinter& p = printDialogs.printer();
-        return QFontMetricsF(QtPageSurface::toQFont({session.settings.colors.lblFont, size, bold, false}), &p)
-                   .lineSpacing() *
-               1440.0 / p.resolution();
     }
 };
 

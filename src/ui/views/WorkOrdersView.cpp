@@ -65,24 +65,10 @@ QRadioButton* option(const char* base, int index, QWidget* parent) {
 WorkOrdersView::WorkOrdersView(Session& session, frmWorkOrders& screen)
     : ScreenView(session.platform.dialogs), m_screen(screen) {
     setMinimumSize(1180, 760);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 10);
-
-    auto* bar = new QMenuBar(this);
-    auto* instructions = new QAction(bar);
-    instructions->setObjectName(QStringLiteral("mnuInstructions"));
-    auto* overview = new QAction(bar);
-    overview->setObjectName(QStringLiteral("mnuOverview"));
-    bar->addAction(instructions);
-    bar->addAction(overview);
-    outer->setMenuBar(bar);
-
-    auto* body = new QHBoxLayout;
-    body->setContentsMargins(12, 8, 12, 0);
-    body->setSpacing(12);
+    QVBoxLayout* outer = WindowWithMenuBar(this, {"mnuInstructions", "mnuOverview"});
+    QHBoxLayout* body = AddBodyRow(outer);
     body->addWidget(findColumn(), 0);
     body->addWidget(workColumn(), 1);
-    outer->addLayout(body, 1);
 
     binder().bindAll(screen.controls);
     // The pictures are drawn once; the binding leaves a picture it has cleared alone.
