@@ -2,6 +2,7 @@
 // returning its SaveKind and one line in AllSaveKinds().
 #include "CatalogueSamples.h"
 #include "CrashHarness.h"
+#include "CrashSaveKindsBooks.h"
 #include "accounts/CustomerStore.h"
 #include "catalogue/CatalogueFile.h"
 #include "catalogue/CatalogueStore.h"
@@ -260,6 +261,10 @@ std::vector<SaveKind> AllSaveKinds() {
         appointmentSlipSave(),
         journalPosting(),
         invoiceImageSave(),
+        InvoicePostingKind(),
+        ServicesAddedKind(),
+        ContractAndTermsKind(),
+        BlockedDaysKind(),
     };
 }
 
