@@ -1,3 +1,4 @@
+#include "AppointmentRoad.h"
 #include "ProgramWindows.h"
 #include "Screenshot.h"
 #include "TestDataRoot.h"
@@ -96,27 +97,7 @@ TEST_F(ProgramWindows, TheLegacyShopGoesFromContinueToTheMenuAndItsRoutines) {
 
 TEST_F(ProgramWindows, AFirstRunTypedIntoSetupOpensTheMenuAndTheNextStartGoesOnToIt) {
     start();
-    test::click(child<QPushButton>("frmSplash", "cmdContinue"));
-    test::settle();
-    test::click(child<ClickableImage>("frmSplash", "Image1(1)"));
-    test::settle();
-    ASSERT_TRUE(shown("frmSetup"));
-
-    QLineEdit* name = child<QLineEdit>("frmSetup", "txtBusiness(0)");
-    name->setFocus();
-    test::typeText(name, "Prairie Comfort");
-    QLineEdit* telephone = child<QLineEdit>("frmSetup", "txtBusiness(6)");
-    telephone->setFocus();
-    test::typeText(telephone, "217-555-0142");
-    child<QTabWidget>("frmSetup", "tabInfo")->setCurrentIndex(4);
-    test::settle();
-    auto* areas = child<QComboBox>("frmSetup", "cboAssignments");
-    areas->setFocus();
-    test::typeText(areas->lineEdit(), "Crew One");
-    test::click(child<QPushButton>("frmSetup", "cmdSave"));
-    test::settle();
-    test::click(child<QPushButton>("frmSetup", "cmdQuit"));
-    test::settle();
+    ASSERT_NO_FATAL_FAILURE(test::FirstRunThroughSetup(*this, "Prairie Comfort", "217-555-0142", {"Crew One"}));
     EXPECT_TRUE(boxes.said.isEmpty()) << boxes.said.join(u'|').toStdString();
     EXPECT_FALSE(shown("frmSetup"));
     ASSERT_TRUE(shown("frmStartup"));

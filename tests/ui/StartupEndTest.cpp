@@ -1,5 +1,6 @@
 // Closing the main menu by its frame ends the program's run: the event loop the executable runs
 // returns, the lock is released and no window is left.
+#include "AppointmentRoad.h"
 #include "ProgramWindows.h"
 #include "UiEvents.h"
 #include "binder/ClickableImage.h"
@@ -18,26 +19,7 @@ using ostrel::test::ProgramWindows;
 TEST_F(ProgramWindows, ClosingTheMenuByItsFrameEndsTheEventLoopAndLeavesNoWindow) {
     // A first run typed into Setup, then on to the menu, as an owner starts.
     start();
-    test::click(child<QPushButton>("frmSplash", "cmdContinue"));
-    test::settle();
-    test::click(child<ClickableImage>("frmSplash", "Image1(1)"));
-    test::settle();
-    ASSERT_TRUE(shown("frmSetup"));
-    QLineEdit* name = child<QLineEdit>("frmSetup", "txtBusiness(0)");
-    name->setFocus();
-    test::typeText(name, "Prairie Comfort");
-    QLineEdit* telephone = child<QLineEdit>("frmSetup", "txtBusiness(6)");
-    telephone->setFocus();
-    test::typeText(telephone, "217-555-0142");
-    child<QTabWidget>("frmSetup", "tabInfo")->setCurrentIndex(4);
-    test::settle();
-    auto* areas = child<QComboBox>("frmSetup", "cboAssignments");
-    areas->setFocus();
-    test::typeText(areas->lineEdit(), "Crew One");
-    test::click(child<QPushButton>("frmSetup", "cmdSave"));
-    test::settle();
-    test::click(child<QPushButton>("frmSetup", "cmdQuit"));
-    test::settle();
+    ASSERT_NO_FATAL_FAILURE(test::FirstRunThroughSetup(*this, "Prairie Comfort", "217-555-0142", {"Crew One"}));
     ASSERT_TRUE(shown("frmStartup")) << boxes.said.join(u'|').toStdString();
 
     // The executable runs the event loop until the program ends it (a hidden last window does not
