@@ -1,4 +1,4 @@
-#include "catalogue/CurrencyText.h"
+#include "store/CurrencyText.h"
 
 #include <gtest/gtest.h>
 

@@ -140,3 +140,34 @@ TEST_F(WorkOrdersViewTest, ARightClickAddsTheServiceTheLeftClickChose) {
     ostrel::test::settle();
     EXPECT_TRUE(find<QPushButton>("cmdWorkOrders(3)")->isEnabled());
 }
+
+TEST_F(WorkOrdersViewTest, TheAppointmentsFoundAreBoxesThatSelectAndLoad) {
+    auto* list = find<QListWidget>("lstWorkorders");
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_TRUE(list->item(0)->flags() & Qt::ItemIsUserCheckable);
+    EXPECT_EQ(list->item(0)->checkState(), Qt::Unchecked);
+    // A click on the entry itself selects it: its box is ticked and its services load.
+    ostrel::test::click(list->viewport(), list->visualItemRect(list->item(0)).center());
+    ostrel::test::settle();
+    EXPECT_TRUE(frm.EntrySelected(0));
+    EXPECT_EQ(list->item(0)->checkState(), Qt::Checked);
+    EXPECT_EQ(find<QTableWidget>("fgServices")->rowCount(), 2);
+    ostrel::test::saveShot(*view, "frmWorkOrders-ticked");
+    // Cleared and ticked again by its box.
+    list->item(0)->setCheckState(Qt::Unchecked);
+    ostrel::test::settle();
+    EXPECT_FALSE(frm.EntrySelected(0));
+    EXPECT_EQ(find<QTableWidget>("fgServices")->rowCount(), 0);
+    list->item(0)->setCheckState(Qt::Checked);
+    ostrel::test::settle();
+    EXPECT_TRUE(frm.EntrySelected(0));
+    EXPECT_EQ(find<QTableWidget>("fgServices")->rowCount(), 2);
+}
+
+TEST_F(WorkOrdersViewTest, ThePickerShowsTheScreensDateAndAChosenDateReachesIt) {
+    auto* picker = find<QDateEdit>("DTPicker1");
+    EXPECT_EQ(picker->date(), frm.DTPicker1.value);
+    picker->setDate(QDate(2026, 11, 25));
+    ostrel::test::settle();
+    EXPECT_EQ(frm.DTPicker1.value, QDate(2026, 11, 25));
+}

@@ -1,7 +1,7 @@
 #include "CatalogueStore.h"
 
 #include "CatalogueFile.h"
-#include "CurrencyText.h"
+#include "store/CurrencyText.h"
 #include "CustomItemRecord.h"
 #include "InventoriedItemRecord.h"
 #include "ServiceRecord.h"

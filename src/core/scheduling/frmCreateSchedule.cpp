@@ -7,11 +7,12 @@
 #include "TimeGrid.h"
 #include "shell/Session.h"
 #include "util/VbText.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
 namespace {
-QString headingDate(const QDate& date) { return date.toString(QStringLiteral("M/d/yyyy")); }
+QString headingDate(const QDate& date) { return ShortDateText(date); }
 } // namespace
 
 void frmCreate::ShowDaySchedule() {

@@ -1,6 +1,6 @@
 #include "Money.h"
 
-#include "catalogue/CurrencyText.h"
+#include "CurrencyText.h"
 
 #include <cmath>
 #include <limits>

@@ -2,6 +2,7 @@
 
 #include "Cp1252.h"
 #include "StoreError.h"
+#include "LocaleText.h"
 
 #include <cmath>
 #include <cstdio>
@@ -134,7 +135,7 @@ QDate TextField::toDate() const {
     }
     const QString s = QString::fromLatin1(t.left(10));
     QDate d = QDate::fromString(s, u"yyyy-MM-dd");
-    if (!d.isValid()) d = QDate::fromString(QString::fromLatin1(t), u"M/d/yyyy");
+    if (!d.isValid()) d = ParseShortDate(QString::fromLatin1(t));
     return d;
 }
 

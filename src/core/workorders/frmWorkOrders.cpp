@@ -4,6 +4,7 @@
 #include "scheduling/WorkDays.h"
 #include "shell/Session.h"
 #include "shell/frmStartup.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -111,8 +112,7 @@ frmWorkOrders::frmWorkOrders(Session& session, frmTerms& terms, Grid& addService
     controls.add(QStringLiteral("optFindBy"), optFindBy);
     controls.add(QStringLiteral("optTerms"), optTerms);
     controls.add(QStringLiteral("optDisclaimer"), optDisclaimer);
-    // The date picker is named here and joined to its widget by the view.
-    DTPicker1.name = QStringLiteral("DTPicker1");
+    controls.add(QStringLiteral("DTPicker1"), DTPicker1);
     controls.add(QStringLiteral("lstAssignments"), lstAssignments);
     controls.add(QStringLiteral("lstWorkorders"), lstWorkorders);
     controls.add(QStringLiteral("fgOverview"), fgOverview);
@@ -151,7 +151,7 @@ void frmWorkOrders::Form_Activate() {
 void frmWorkOrders::Reset() {
     for (Frame* f : {&fraTerms, &fraAddServices, &fraDate, &fraAssignmentList, &fraPicklist})
         f->visible = false;
-    lstWorkorders.Clear();
+    clearEntries();
     // Through the option that shows the list to the one that shows the date.
     optFindBy_Click(1);
     optFindBy_Click(0);
@@ -258,6 +258,6 @@ void frmWorkOrders::appendRow(Grid& grid, const QStringList& cells) {
         grid.SetTextMatrix(r, c, cells[c]);
 }
 
-QString frmWorkOrders::dateText(const QDate& date) const { return date.toString(QStringLiteral("M/d/yyyy")); }
+QString frmWorkOrders::dateText(const QDate& date) const { return ShortDateText(date); }
 
 } // namespace ostrel

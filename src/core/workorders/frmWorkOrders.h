@@ -35,7 +35,12 @@ public:
     void cmdWorkOrders_Click(int index);
     void optFindBy_Click(int index);
     void fgOverview_Click();
+    // A click on an entry of the list selects it (the others stay as they are) and loads.
     void lstWorkorders_Click();
+    // The box of an entry ticked or cleared: the selection changes and the selected entries load.
+    void lstWorkorders_ItemCheck(int index, bool selected);
+    // The list is one of boxes: each entry is selected on its own.
+    bool EntrySelected(int index) const { return m_entrySelected.value(index, false); }
     void fgAddServices_Click();
     void fgAddServices_RightClick();
     void mnuInstructions_Click();
@@ -98,6 +103,8 @@ private:
     bool pointOfServiceSelected(int number) const;
     // The entries of lstWorkorders that are selected, in list order.
     QStringList selectedEntries() const;
+    void clearEntries();
+    void addEntry(const QString& slipName);
     void emptyGrid(Grid& grid);
     void appendRow(Grid& grid, const QStringList& cells);
 
@@ -108,6 +115,7 @@ private:
 
     Session& m_session;
     frmTerms& m_terms;
+    QVector<bool> m_entrySelected; // beside lstWorkorders' entries
     PrinterRoutines m_printer;
     AppointmentSlip m_slip;
     // The row of fgAddServices a left click chose, for the right click that adds it.

@@ -93,7 +93,7 @@ void frmWorkOrders::purgeExpired() {
         return;
     if (d.MsgBox(QStringLiteral("Are you Sure?"), vbYesNo + vbQuestion, QStringLiteral("Delete Verification")) != vbYes)
         return;
-    lstWorkorders.Clear();
+    clearEntries();
     PurgeMode = true;
     LoadWorkorders();
     for (const QString& name : lstWorkorders.items) {

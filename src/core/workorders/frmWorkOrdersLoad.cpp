@@ -6,6 +6,7 @@
 #include "store/Money.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -19,7 +20,7 @@ enum OverviewColumn { kSlipName, kDate, kAccount, kCustomer, kPointOfServiceName
 } // namespace
 
 void frmWorkOrders::LoadWorkorders() {
-    lstWorkorders.Clear();
+    clearEntries();
     cmdWorkOrders[3].enabled = false;
     int findBy = 0;
     for (int i = 0; i <= 2; ++i)
@@ -39,7 +40,7 @@ void frmWorkOrders::LoadWorkorders() {
     for (const QString& name : names) {
         const AppointmentSlip slip = ReadSlipHeader(m_session.disk, name);
         if (PurgeMode) {
-            lstWorkorders.AddItem(slip.SlipName);
+            addEntry(slip.SlipName);
             continue;
         }
         if (!OverviewBuilt) {
@@ -50,7 +51,7 @@ void frmWorkOrders::LoadWorkorders() {
         const bool onDate = slip.SlipDate == DTPicker1.value;
         const bool atPlace = pointOfServiceSelected(slip.SlipPointOfService);
         if ((findBy == 0 && onDate) || (findBy == 1 && atPlace) || (findBy == 2 && onDate && atPlace))
-            lstWorkorders.AddItem(slip.SlipName);
+            addEntry(slip.SlipName);
     }
     if (!PurgeMode && added) {
         OverviewBuilt = true;
@@ -85,9 +86,19 @@ bool frmWorkOrders::pointOfServiceSelected(int number) const {
 
 QStringList frmWorkOrders::selectedEntries() const {
     QStringList out;
-    if (lstWorkorders.listIndex >= 0 && lstWorkorders.listIndex < lstWorkorders.ListCount())
-        out << lstWorkorders.List(lstWorkorders.listIndex);
+    for (int i = 0; i < lstWorkorders.ListCount(); ++i)
+        if (EntrySelected(i)) out << lstWorkorders.List(i);
     return out;
+}
+
+void frmWorkOrders::clearEntries() {
+    lstWorkorders.Clear();
+    m_entrySelected.clear();
+}
+
+void frmWorkOrders::addEntry(const QString& slipName) {
+    lstWorkorders.AddItem(slipName);
+    m_entrySelected.resize(lstWorkorders.ListCount());
 }
 
 void frmWorkOrders::loadCommand() {
@@ -105,8 +116,8 @@ void frmWorkOrders::fgOverview_Click() {
     const int r = fgOverview.row;
     if (r < 1 || r >= fgOverview.Rows() || fgOverview.TextMatrix(r, kSlipName).isEmpty()) return;
     fraInstructions.visible = false;
-    lstWorkorders.Clear();
-    const QDate date = QDate::fromString(fgOverview.TextMatrix(r, kDate), QStringLiteral("M/d/yyyy"));
+    clearEntries();
+    const QDate date = ParseShortDate(fgOverview.TextMatrix(r, kDate));
     if (date < m_session.today()) {
         m_session.platform.dialogs.MsgBox(QStringLiteral("You can not modify this Appointment") + u'\n' +
                                           QStringLiteral("The Appointment date has passed"));
@@ -116,7 +127,7 @@ void frmWorkOrders::fgOverview_Click() {
     const int entry = fgOverview.TextMatrix(r, kPointOfService).toInt() - 1;
     if (entry >= 0 && entry < lstAssignments.ListCount()) lstAssignments.SetListIndex(entry);
     optFindBy_Click(2);
-    lstWorkorders.AddItem(fgOverview.TextMatrix(r, kSlipName));
+    addEntry(fgOverview.TextMatrix(r, kSlipName));
     fraOverview.visible = false;
     lstWorkorders.SetListIndex(0);
     lstWorkorders_Click();
@@ -125,7 +136,18 @@ void frmWorkOrders::fgOverview_Click() {
 }
 
 void frmWorkOrders::lstWorkorders_Click() {
-    if (lstWorkorders.listIndex < 0 || lstWorkorders.listIndex >= lstWorkorders.ListCount()) return;
+    const int index = lstWorkorders.listIndex;
+    if (index < 0 || index >= lstWorkorders.ListCount()) return;
+    m_entrySelected.resize(lstWorkorders.ListCount());
+    m_entrySelected[index] = true;
+    cmdWorkOrders_Click(5);
+}
+
+void frmWorkOrders::lstWorkorders_ItemCheck(int index, bool selected) {
+    if (index < 0 || index >= lstWorkorders.ListCount()) return;
+    m_entrySelected.resize(lstWorkorders.ListCount());
+    m_entrySelected[index] = selected;
+    lstWorkorders.SetListIndex(index);
     cmdWorkOrders_Click(5);
 }
 
@@ -145,10 +167,12 @@ void frmWorkOrders::loadSelected() {
     }
     if (!entries.isEmpty()) cmdWorkOrders[6].enabled = true;
 
+    // The pick list is that of the entry at the list index alone.
     emptyGrid(fgPicklist);
-    const bool parts = !entries.isEmpty() && SoldItemsFileExists(m_session.disk, entries.first());
+    const QString current = lstWorkorders.List(lstWorkorders.listIndex);
+    const bool parts = !entries.isEmpty() && !current.isEmpty() && SoldItemsFileExists(m_session.disk, current);
     if (parts)
-        for (const SlipSoldItem& item : ReadSoldItemsFile(m_session.disk, entries.first()))
+        for (const SlipSoldItem& item : ReadSoldItemsFile(m_session.disk, current))
             appendRow(fgPicklist, {item.quantity, item.description});
     ckPick.enabled = parts;
     cmdWorkOrders[12].enabled = parts;

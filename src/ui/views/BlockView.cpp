@@ -4,6 +4,7 @@
 #include "ScreenWindow.h"
 #include "scheduling/frmBlock.h"
 #include "shell/Session.h"
+#include "store/LocaleText.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
@@ -51,7 +52,7 @@ QTableWidget* table(const char* name, QWidget* parent) {
 
 QDateEdit* dateBox(const char* name, QWidget* parent) {
     auto* d = named<QDateEdit>(QLatin1String(name), parent);
-    d->setDisplayFormat(QStringLiteral("M/d/yyyy"));
+    d->setDisplayFormat(kShortDateFormat);
     d->setMinimumWidth(130);
     return d;
 }
@@ -60,19 +61,8 @@ QDateEdit* dateBox(const char* name, QWidget* parent) {
 
 BlockView::BlockView(Session& session, frmBlock& screen) : ScreenView(session.platform.dialogs), m_screen(screen) {
     setMinimumSize(1040, 640);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 12);
-
-    auto* bar = new QMenuBar(this);
-    auto* toggle = new QAction(bar);
-    toggle->setObjectName(QStringLiteral("mnuBlocked"));
-    bar->addAction(toggle);
-    outer->setMenuBar(bar);
-
-    auto* body = new QHBoxLayout;
-    body->setContentsMargins(14, 10, 14, 0);
-    body->setSpacing(16);
-    outer->addLayout(body, 1);
+    QVBoxLayout* outer = WindowWithMenuBar(this, {"mnuBlocked"});
+    QHBoxLayout* body = AddBodyRow(outer);
 
     // Whom, what and how many days.
     auto* left = new QVBoxLayout;

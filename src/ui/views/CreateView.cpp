@@ -1,16 +1,14 @@
 #include "CreateView.h"
 
 #include "CreateViewLayout.h"
+#include "binder/CheckableList.h"
 #include "ScreenWindow.h"
 #include "scheduling/frmCreate.h"
 #include "shell/Session.h"
 
-#include <QAbstractItemModel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QTableWidget>
-#include <QTimer>
 
 namespace ostrel::ui {
 
@@ -28,24 +26,11 @@ CreateView::CreateView(Session& session, frmCreate& screen)
         if (shown.isVisible()) showChecksSoon();
     };
     binder().sync();
-    showChecks();
+    if (m_serviceChecks) m_serviceChecks->show();
 }
 
 void CreateView::showChecksSoon() {
-    QTimer::singleShot(0, this, [this] { showChecks(); });
-}
-
-void CreateView::showChecks() {
-    auto* list = qobject_cast<QListWidget*>(binder().widgetFor(m_screen.lstServices));
-    if (!list) return;
-    const QSignalBlocker quiet(list);
-    for (int i = 0; i < list->count(); ++i) {
-        QListWidgetItem* item = list->item(i);
-        if (!(item->flags() & Qt::ItemIsUserCheckable)) item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-        const Qt::CheckState state = m_screen.ServiceChecked(i) ? Qt::Checked : Qt::Unchecked;
-        if (!item->data(Qt::CheckStateRole).isValid() || item->checkState() != state) item->setCheckState(state);
-    }
-    list->viewport()->update();
+    if (m_serviceChecks) m_serviceChecks->showSoon();
 }
 
 void CreateView::onRightClick(Grid& model, void (frmCreate::*handler)()) {
@@ -92,18 +77,13 @@ void CreateView::wire() {
     onRightClick(s.fgServices, &frmCreate::fgServices_RightClick);
     // A box ticked or cleared by the user is a click on that service.
     if (auto* list = qobject_cast<QListWidget*>(b.widgetFor(s.lstServices))) {
-        connect(list, &QListWidget::itemChanged, this, [this, list](QListWidgetItem* item) {
-            const int row = list->row(item);
-            const bool checked = item->checkState() == Qt::Checked;
-            if (row < 0 || checked == m_screen.ServiceChecked(row)) return;
-            binder().run([this, row, checked] {
+        m_serviceChecks = new CheckableList(
+            list, b, [this](int row) { return m_screen.ServiceChecked(row); },
+            [this](int row, bool checked) {
                 m_screen.SetServiceChecked(row, checked);
                 m_screen.lstServices.SetListIndex(row);
                 m_screen.lstServices_Click();
             });
-            showChecksSoon();
-        });
-        connect(list->model(), &QAbstractItemModel::rowsInserted, this, [this] { showChecksSoon(); });
     }
     onRightClick(s.fgItems, &frmCreate::fgItems_RightClick);
 }

@@ -12,6 +12,8 @@ struct Grid;
 
 namespace ostrel::ui {
 
+class CheckableList;
+
 // The appointment creation screen.
 class CreateView : public ScreenView {
     Q_OBJECT
@@ -20,14 +22,13 @@ public:
 
 private:
     void wire();
-    // The services list shows a check box before each service; its marks are the screen's. They
-    // are put on the items after each event, once the binder has pushed the list.
+    // The services list shows a check box before each service; its marks are the screen's.
     void showChecksSoon();
-    void showChecks();
     // A right mouse click on a row of a grid: the row becomes the current one, then the handler.
     void onRightClick(Grid& model, void (frmCreate::*handler)());
 
     frmCreate& m_screen;
+    CheckableList* m_serviceChecks = nullptr;
 };
 
 } // namespace ostrel::ui

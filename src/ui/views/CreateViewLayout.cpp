@@ -161,31 +161,32 @@ QGroupBox* accountFrame(QWidget* parent) {
     return f;
 }
 
-QGroupBox* servicesFrame(QWidget* parent) {
-    QGroupBox* f = frame("fraServices", parent);
+// A frame of what the appointment holds so far: its grid, and how to take a row out.
+QGroupBox* addedFrame(const char* frameName, const char* gridName, int columns, int stretchColumn,
+                      const QString& accessibleName, QWidget* parent, QVBoxLayout** layout) {
+    QGroupBox* f = frame(frameName, parent);
     auto* v = new QVBoxLayout(f);
-    QTableWidget* g = grid("fgServices", f, 3, 0);
-    g->setAccessibleName(QStringLiteral("Services Added"));
+    QTableWidget* g = grid(gridName, f, columns, stretchColumn);
+    g->setAccessibleName(accessibleName);
     g->setMinimumHeight(150);
     v->addWidget(g);
     auto* hint = new QLabel(QStringLiteral("Right click a row to remove it"), f);
     plainFont(hint);
     v->addWidget(hint);
+    *layout = v;
+    return f;
+}
+
+QGroupBox* servicesFrame(QWidget* parent) {
+    QVBoxLayout* v = nullptr;
+    QGroupBox* f = addedFrame("fraServices", "fgServices", 3, 0, QStringLiteral("Services Added"), parent, &v);
     v->addWidget(button(15, f));
     return f;
 }
 
 QGroupBox* itemsFrame(QWidget* parent) {
-    QGroupBox* f = frame("fraItems", parent);
-    auto* v = new QVBoxLayout(f);
-    QTableWidget* g = grid("fgItems", f, 4, 1);
-    g->setAccessibleName(QStringLiteral("Sales Items added"));
-    g->setMinimumHeight(150);
-    v->addWidget(g);
-    auto* hint = new QLabel(QStringLiteral("Right click a row to remove it"), f);
-    plainFont(hint);
-    v->addWidget(hint);
-    return f;
+    QVBoxLayout* v = nullptr;
+    return addedFrame("fraItems", "fgItems", 4, 1, QStringLiteral("Sales Items added"), parent, &v);
 }
 
 QGroupBox* addToFrame(QWidget* parent) {
@@ -313,12 +314,6 @@ QGroupBox* scheduleFrame(QWidget* parent) {
     return f;
 }
 
-QAction* action(const char* name, QObject* parent) {
-    auto* a = new QAction(parent);
-    a->setObjectName(QLatin1String(name));
-    return a;
-}
-
 } // namespace
 
 void BuildCreateWidgets(QWidget* window, int instructionLines) {
@@ -329,9 +324,9 @@ void BuildCreateWidgets(QWidget* window, int instructionLines) {
     auto* toggle = new QMenu(bar);
     toggle->menuAction()->setObjectName(QStringLiteral("mnuToggle"));
     for (const char* n : {"mnuCustomer", "mnuServices", "mnuItems", "mnuAddto"})
-        toggle->addAction(action(n, toggle));
+        toggle->addAction(namedAction(n, toggle));
     bar->addMenu(toggle);
-    bar->addAction(action("mnuInstructions", bar));
+    bar->addAction(namedAction("mnuInstructions", bar));
     outer->setMenuBar(bar);
 
     auto* body = new QHBoxLayout;

@@ -2,6 +2,7 @@
 
 #include "NamedWidgets.h"
 #include "invoicing/frmInvoice.h"
+#include "store/LocaleText.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -48,12 +49,6 @@ void addRow(QFormLayout* form, const QString& caption, QWidget* box) {
     auto* l = new QLabel(caption, box->parentWidget());
     l->setBuddy(box);
     form->addRow(l, box);
-}
-
-QAction* action(const char* name, QObject* parent) {
-    auto* a = new QAction(parent);
-    a->setObjectName(QLatin1String(name));
-    return a;
 }
 
 const char* instructionsText(int panel) {
@@ -172,7 +167,7 @@ QGroupBox* servicesFrame(QWidget* w) {
     addRow(form, QStringLiteral("Price"), combo(element("cboPrice", 0), box));
     auto* date = named<QDateEdit>(QStringLiteral("DTPicker1"), box);
     date->setCalendarPopup(true);
-    date->setDisplayFormat(QStringLiteral("M/d/yyyy"));
+    date->setDisplayFormat(kShortDateFormat);
     addRow(form, QStringLiteral("Service Date"), date);
     row->addLayout(form, 1);
     auto* buttons = new QVBoxLayout;
@@ -278,11 +273,11 @@ QMenu* BuildInvoiceWidgets(QWidget* w, const frmInvoice& screen) {
     auto* bar = new QMenuBar(w);
     QMenu* open = bar->addMenu(QStringLiteral("&Open Windows"));
     for (const char* n : {"mnuSetup", "mnuCreate", "mnuPrint"})
-        open->addAction(action(n, open));
+        open->addAction(namedAction(n, open));
     QMenu* add = bar->addMenu(QStringLiteral("&Add to Invoice"));
     for (const char* n : {"mnuItems", "mnuServices", "mnuCItems", "mnuLabor"})
-        add->addAction(action(n, add));
-    bar->addAction(action("mnuClose", bar));
+        add->addAction(namedAction(n, add));
+    bar->addAction(namedAction("mnuClose", bar));
     outer->setMenuBar(bar);
 
     auto* body = new QVBoxLayout;
@@ -327,7 +322,7 @@ QMenu* BuildInvoiceWidgets(QWidget* w, const frmInvoice& screen) {
     auto* popup = new QMenu(w);
     popup->setObjectName(QStringLiteral("mnupopupMenu"));
     popup->menuAction()->setObjectName(QStringLiteral("mnupopup"));
-    popup->addAction(action("mnuDeleteItem", popup));
+    popup->addAction(namedAction("mnuDeleteItem", popup));
     return popup;
 }
 

@@ -309,12 +309,6 @@ QLayout* buttonColumn(QWidget* parent) {
     return v;
 }
 
-QAction* action(const QString& name, QObject* parent) {
-    auto* a = new QAction(parent);
-    a->setObjectName(name);
-    return a;
-}
-
 } // namespace
 
 QMenu* BuildNewCustomerWidgets(QWidget* window) {
@@ -323,7 +317,7 @@ QMenu* BuildNewCustomerWidgets(QWidget* window) {
 
     auto* bar = new QMenuBar(window);
     for (const char* n : {"mnuAdd", "mnuDelete", "mnuAux", "mnuPrint"})
-        bar->addAction(action(QString::fromLatin1(n), bar));
+        bar->addAction(namedAction(QString::fromLatin1(n), bar));
     outer->setMenuBar(bar);
 
     auto* body = new QHBoxLayout;
@@ -349,7 +343,7 @@ QMenu* BuildNewCustomerWidgets(QWidget* window) {
     auto* popup = new QMenu(window);
     popup->setObjectName(QStringLiteral("mnupopupMenu"));
     popup->menuAction()->setObjectName(QStringLiteral("mnupopup"));
-    popup->addAction(action(QStringLiteral("mnuSelect"), popup));
+    popup->addAction(namedAction(QStringLiteral("mnuSelect"), popup));
     return popup;
 }
 

@@ -1,5 +1,6 @@
 #include "StartupView.h"
 
+#include "NamedWidgets.h"
 #include "ScreenWindow.h"
 #include "binder/ClickableImage.h"
 #include "shell/Session.h"
@@ -53,12 +54,6 @@ QMenu* menu(const QString& name, QWidget* parent) {
     return m;
 }
 
-QAction* action(const QString& name, QObject* parent) {
-    auto* a = new QAction(parent);
-    a->setObjectName(name);
-    return a;
-}
-
 } // namespace
 
 StartupView::StartupView(Session& session, frmStartup& screen)
@@ -69,17 +64,17 @@ StartupView::StartupView(Session& session, frmStartup& screen)
 
     auto* bar = new QMenuBar(this);
     QMenu* files = menu(QStringLiteral("mnuFiles"), bar);
-    QAction* create = action(QStringLiteral("mnuCreate"), files);
-    QAction* exit = action(QStringLiteral("mnuExit"), files);
+    QAction* create = namedAction(QStringLiteral("mnuCreate"), files);
+    QAction* exit = namedAction(QStringLiteral("mnuExit"), files);
     files->addAction(create);
     files->addSeparator();
     files->addAction(exit);
     QMenu* order = menu(QStringLiteral("mnuOrder"), bar);
     QMenu* deluxe = menu(QStringLiteral("mnuDelexe"), order);
-    for (const char* n : {"mnuDeluxe", "mnuSlips"}) deluxe->addAction(action(QString::fromLatin1(n), deluxe));
+    for (const char* n : {"mnuDeluxe", "mnuSlips"}) deluxe->addAction(namedAction(QString::fromLatin1(n), deluxe));
     order->addMenu(deluxe);
     for (const char* n : {"mnuPPaper", "mnuPPPaper", "mnuGraytex", "mnuAddress", "mnuLabels"})
-        order->addAction(action(QString::fromLatin1(n), order));
+        order->addAction(namedAction(QString::fromLatin1(n), order));
     bar->addMenu(files);
     bar->addMenu(order);
     outer->setMenuBar(bar);

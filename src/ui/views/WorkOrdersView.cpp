@@ -2,6 +2,7 @@
 #include "NamedWidgets.h"
 
 #include "ScreenWindow.h"
+#include "binder/CheckableList.h"
 #include "binder/ClickableImage.h"
 #include "shell/Session.h"
 #include "workorders/frmWorkOrders.h"
@@ -64,24 +65,10 @@ QRadioButton* option(const char* base, int index, QWidget* parent) {
 WorkOrdersView::WorkOrdersView(Session& session, frmWorkOrders& screen)
     : ScreenView(session.platform.dialogs), m_screen(screen) {
     setMinimumSize(1180, 760);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 10);
-
-    auto* bar = new QMenuBar(this);
-    auto* instructions = new QAction(bar);
-    instructions->setObjectName(QStringLiteral("mnuInstructions"));
-    auto* overview = new QAction(bar);
-    overview->setObjectName(QStringLiteral("mnuOverview"));
-    bar->addAction(instructions);
-    bar->addAction(overview);
-    outer->setMenuBar(bar);
-
-    auto* body = new QHBoxLayout;
-    body->setContentsMargins(12, 8, 12, 0);
-    body->setSpacing(12);
+    QVBoxLayout* outer = WindowWithMenuBar(this, {"mnuInstructions", "mnuOverview"});
+    QHBoxLayout* body = AddBodyRow(outer);
     body->addWidget(findColumn(), 0);
     body->addWidget(workColumn(), 1);
-    outer->addLayout(body, 1);
 
     binder().bindAll(screen.controls);
     // The pictures are drawn once; the binding leaves a picture it has cleared alone.
@@ -247,28 +234,38 @@ QWidget* WorkOrdersView::workColumn() {
 void WorkOrdersView::wire() {
     Binder& b = binder();
     frmWorkOrders& s = m_screen;
-    b.onClick(s.cmdWorkOrders, [this](int i) { m_screen.cmdWorkOrders_Click(i); });
-    b.onClick(s.optFindBy, [this](int i) { m_screen.optFindBy_Click(i); });
-    b.onClick(s.fgOverview, [this] {
-        m_screen.fgOverview_Click();
-        showDate();
+    if (auto* list = qobject_cast<QListWidget*>(b.widgetFor(s.lstWorkorders)))
+        m_entryChecks = new CheckableList(
+            list, b, [this](int row) { return m_screen.EntrySelected(row); },
+            [this](int row, bool selected) { m_screen.lstWorkorders_ItemCheck(row, selected); });
+    // Any of these may change which appointments are selected.
+    const auto showEntries = [this] {
+        if (m_entryChecks) m_entryChecks->showSoon();
+    };
+    b.onClick(s.cmdWorkOrders, [this, showEntries](int i) {
+        m_screen.cmdWorkOrders_Click(i);
+        showEntries();
     });
-    b.onClick(s.lstWorkorders, [this] { m_screen.lstWorkorders_Click(); });
+    b.onClick(s.optFindBy, [this](int i) { m_screen.optFindBy_Click(i); });
+    b.onClick(s.fgOverview, [this, showEntries] {
+        m_screen.fgOverview_Click();
+        showEntries();
+    });
+    b.onClick(s.lstWorkorders, [this, showEntries] {
+        m_screen.lstWorkorders_Click();
+        showEntries();
+    });
     b.onClick(s.fgAddServices, [this] { m_screen.fgAddServices_Click(); });
     b.onClick(s.mnuInstructions, [this] { m_screen.mnuInstructions_Click(); });
     b.onClick(s.mnuOverview, [this] { m_screen.mnuOverview_Click(); });
     b.onClick(s.imgSave[0], [this] { m_screen.cmdWorkOrders_Click(3); });
-    b.onClick(s.imgSave[1], [this] { m_screen.cmdWorkOrders_Click(1); });
+    b.onClick(s.imgSave[1], [this, showEntries] {
+        m_screen.cmdWorkOrders_Click(1);
+        showEntries();
+    });
 
-    // The date: the user's choice goes into the model; the screen moves it on activation and when
-    // an overview row opens a slip.
-    if (auto* picker = findChild<QDateEdit*>(QStringLiteral("DTPicker1"))) {
-        connect(picker, &QDateEdit::dateChanged, this, [this](const QDate& date) {
-            if (m_showingDate) return;
-            binder().dispatch([this, date] { m_screen.DTPicker1.value = date; });
-        });
-    }
-    setActivateHandler([this] { showDate(); });
+    // The activation loads the day's appointments: the window shows them once it has run.
+    setActivateHandler([showEntries] { showEntries(); });
 
     // A right click adds the service the left click chose; the grid has no such event of its own.
     if (auto* table = qobject_cast<QTableWidget*>(b.widgetFor(s.fgAddServices))) {
@@ -276,14 +273,6 @@ void WorkOrdersView::wire() {
         connect(table, &QWidget::customContextMenuRequested, this,
                 [this] { binder().dispatch([this] { m_screen.fgAddServices_RightClick(); }); });
     }
-}
-
-void WorkOrdersView::showDate() {
-    auto* picker = findChild<QDateEdit*>(QStringLiteral("DTPicker1"));
-    if (!picker || !m_screen.DTPicker1.value.isValid() || picker->date() == m_screen.DTPicker1.value) return;
-    m_showingDate = true;
-    picker->setDate(m_screen.DTPicker1.value);
-    m_showingDate = false;
 }
 
 } // namespace ostrel::ui

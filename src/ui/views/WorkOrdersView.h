@@ -9,6 +9,8 @@ class frmWorkOrders;
 
 namespace ostrel::ui {
 
+class CheckableList;
+
 // The work order screen: how to find the slips on the left, the slip's services and the step
 // frames (overview, services to add, print instructions, pick list) on the right.
 class WorkOrdersView : public ScreenView {
@@ -20,10 +22,10 @@ private:
     QWidget* findColumn();
     QWidget* workColumn();
     void wire();
-    void showDate();
 
     frmWorkOrders& m_screen;
-    bool m_showingDate = false;
+    // The appointments found are boxes to tick, several at a time.
+    CheckableList* m_entryChecks = nullptr;
 };
 
 } // namespace ostrel::ui
