@@ -11,6 +11,10 @@ TEST(CatalogueCurrencyText, ShowsDollarsWithThousandsCommasAndTwoDecimals) {
     EXPECT_EQ(currencytext::format(12345000), QStringLiteral("$1,234.50"));
     EXPECT_EQ(currencytext::format(12345678900000), QStringLiteral("$1,234,567,890.00"));
     EXPECT_EQ(currencytext::format(4500), QStringLiteral("$0.45"));
+    EXPECT_EQ(currencytext::format(9999900), QStringLiteral("$999.99"));
+    EXPECT_EQ(currencytext::format(10000000), QStringLiteral("$1,000.00"));
+    EXPECT_EQ(currencytext::format(1000000000), QStringLiteral("$100,000.00"));
+    EXPECT_EQ(currencytext::format(-10000), QStringLiteral("($1.00)"));
 }
 
 TEST(CatalogueCurrencyText, ShowsNegativesInParentheses) {

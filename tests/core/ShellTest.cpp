@@ -99,6 +99,41 @@ TEST_F(ShellFixture, ASecondCopyIsRefusedBeforeTouchingTheDisk) {
     EXPECT_TRUE(t.root().list("/").isEmpty());
 }
 
+TEST_F(ShellFixture, ClicksOnTheWelcomeScreenDuringTheModemProbeReachNoScreenNotLoadedYet) {
+    writeSetupFiles();
+    t.writeBytes("/Services.txt", QByteArray(72, ' '));
+    StandInScreen setup("frmSetup");
+    session.RegisterScreen(ScreenId::frmSetup, setup);
+    fake.serialMachine.attach(1, test::ScriptedDevice::of(test::ScriptedDevice::Kind::Silent));
+    int clicks = 0;
+    fake.serialMachine.duringWait = [&](int) {
+        ++clicks;
+        session.splash().cmdContinue_Click();
+        session.splash().Image1_Click(1);
+        session.splash().Image1_Click(0);
+    };
+    ASSERT_EQ(session.Main(), Session::StartResult::Running);
+    fake.serialMachine.duringWait = nullptr;
+    ASSERT_GT(clicks, 0) << "the probe never waited, so no click came early";
+    EXPECT_TRUE(session.splash().isVisible());
+    EXPECT_FALSE(setup.isVisible());
+    EXPECT_TRUE(fake.dialogs.boxes().isEmpty()) << fake.dialogs.boxes().size();
+    // Once started, Continue goes on to the menu and the welcome screen makes way for it.
+    session.splash().cmdContinue_Click();
+    EXPECT_TRUE(session.startup().isVisible());
+    EXPECT_FALSE(session.splash().isVisible());
+}
+
+TEST_F(ShellFixture, AFolderThatCannotBeWrittenIsSaidSoAndNotTakenForASecondCopy) {
+    fake.instance.folderNotWritable = true;
+    EXPECT_EQ(session.Main(), Session::StartResult::FolderNotWritable);
+    EXPECT_BOX(fake.dialogs, "", FolderNotWritableMessage(t.root().root()));
+    const QString said = FolderNotWritableMessage(t.root().root());
+    EXPECT_FALSE(said.contains("already Running"));
+    EXPECT_TRUE(said.contains(t.root().root()));
+    EXPECT_TRUE(t.root().list("/").isEmpty());
+}
+
 TEST_F(ShellFixture, AnEmptyServiceAreasFileIsPopulatedWithNoNamesAndOnlyAllAssignments) {
     t.writeBytes("/ServiceAreas.txt", {});
     ListControl setupList, blockList, createList;

@@ -7,8 +7,12 @@
 #include "ProgramWindows.h"
 #include "ShippedData.h"
 #include "binder/ClickableImage.h"
+#include "catalogue/LaborRates.h"
 #include "catalogue/ServiceRecord.h"
+#include "store/DiskRoutines.h"
+#include "store/TextStatements.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -76,12 +80,18 @@ inline void LayInstalledTree(TestDataRoot& t) {
         t.makeDir(QLatin1String(folder));
 }
 
-// The catalogue the road sells from, written by the catalogue's own record writers: Tune Up 1:00
-// at $45.00, Inspection 0:15 at $20.00; the item Filter in Parts at $12.50.
+// The catalogue the road sells from, written by the catalogue's own writers: Tune Up 1:00 at
+// $45.00, Inspection 0:15 at $20.00; the item Filter in Parts at $12.50, 12 on hand; labor at
+// $85.00 an hour.
 inline void WriteRoadCatalogue(TestDataRoot& t) {
     t.writeBytes("/Services.txt", ServiceRecord{"Tune Up", "$45.00", 4}.toRecord().bytes() +
                                       ServiceRecord{"Inspection", "$20.00", 1}.toRecord().bytes());
     t.writeBytes("/OIInventoriedItems.txt", item("Filter", "Parts").toRecord().bytes());
+    TextWriter labor;
+    labor.write({QStringLiteral("General Labor"), QStringLiteral("$85.00")});
+    labor.write({QString(), QString()});
+    labor.write({QString(), QString()});
+    t.disk().ReplaceTextFile(kLaborFileName, labor);
 }
 
 // Welcome, the logo into Setup, the business name and telephone, the Points of Service one by one,
@@ -230,5 +240,39 @@ inline void ClickDayRow(int row) {
 
 // "Schedule Appointment    Save Day Schedule".
 inline void SaveDaySchedule() { road::press("frmCreate", QStringLiteral("cmdService(2)")); }
+
+// "Print Invoice AFTER Saving Day Schdule" ticked.
+inline void TickPrintInvoiceAfterSaving() {
+    auto* box = ProgramWindows::child<QCheckBox>("frmCreate", "ckPrintInvoice");
+    ASSERT_NE(box, nullptr);
+    test::click(box);
+    test::settle();
+    ASSERT_TRUE(box->isChecked());
+}
+
+// A menu entry of a window, as a click on it.
+inline void ChooseMenu(const char* form, const QString& name) {
+    auto* entry = ProgramWindows::child<QAction>(QLatin1String(form), name);
+    ASSERT_NE(entry, nullptr);
+    ASSERT_TRUE(entry->isEnabled()) << name.toStdString();
+    entry->trigger();
+    test::settle();
+}
+
+// On the invoice: hours of the first labor rate, calculated and added to the body.
+inline void AddLaborHours(const QString& hours) {
+    ChooseMenu("frmInvoice", QStringLiteral("mnuLabor"));
+    road::type(ProgramWindows::child<QLineEdit>("frmInvoice", "txtHours(0)"), hours);
+    road::press("frmInvoice", QStringLiteral("cmdLabor(0)"));
+    road::press("frmInvoice", QStringLiteral("cmdLabor(1)"));
+}
+
+// On the invoice: a catalogue item and its units, posted to the body.
+inline void AddInvoiceItem(const QString& item, const QString& units) {
+    ChooseMenu("frmInvoice", QStringLiteral("mnuItems"));
+    road::chooseInCombo(ProgramWindows::child<QComboBox>("frmInvoice", "cboDescription(1)"), item);
+    road::type(ProgramWindows::child<QLineEdit>("frmInvoice", "txtUnits"), units);
+    road::press("frmInvoice", QStringLiteral("cmdPost(1)"));
+}
 
 } // namespace ostrel::test

@@ -185,3 +185,87 @@ TEST_F(ProgramWindows, TheRoadOfOneAppointmentFromAFirstRunToItsReprintAndTheSal
     EXPECT_EQ(boxes.said[2], "Was the Invoice Printed Correctly");
     EXPECT_TRUE(boxes.said[3].startsWith("Would you like to DELETE the Appointment Files?"));
 }
+
+TEST_F(ProgramWindows, AnAppointmentSavedToBeInvoicedIsComposedPrintedAndPostedByteForByte) {
+    const QDate today(2026, 11, 23);
+    clock.set(today, QTime(8, 30));
+    options.clock = &clock;
+    options.choosePrinter = printed.chooser();
+    test::LayInstalledTree(t);
+    test::WriteRoadCatalogue(t);
+    const QByteArray stockBefore = t.readBytes("/OIInventoriedItems.txt");
+    start();
+    ASSERT_NO_FATAL_FAILURE(test::FirstRunThroughSetup(*this, "Prairie Comfort", "217-555-0142", {"Crew One"}));
+    ASSERT_NO_FATAL_FAILURE(test::OpenCreateAnAppointment(*this));
+    ASSERT_NO_FATAL_FAILURE(test::TypeCustomer({"1001", "Ann", "Archer", "12 Elm St", "217-555-0101"}));
+    ASSERT_NO_FATAL_FAILURE(test::SelectCustomer(*this));
+    ASSERT_NO_FATAL_FAILURE(test::AddService("Tune Up"));
+    ASSERT_NO_FATAL_FAILURE(test::AddSalesItem("Parts", "Filter", "2"));
+    ASSERT_NO_FATAL_FAILURE(test::CreateAndOpenTheDay());
+    ASSERT_NO_FATAL_FAILURE(test::ClickDayRow(10));
+    ASSERT_NO_FATAL_FAILURE(test::TickPrintInvoiceAfterSaving());
+    ASSERT_NO_FATAL_FAILURE(test::SaveDaySchedule());
+    ASSERT_TRUE(shown("frmInvoice"));
+    EXPECT_FALSE(shown("frmCreate"));
+
+    boxes.answer("Would you like to DELETE the Appointment Files?", QMessageBox::Yes);
+    ASSERT_NO_FATAL_FAILURE(test::road::press("frmInvoice", "cmdInvoice(0)"));
+    ASSERT_NO_FATAL_FAILURE(test::AddLaborHours("1.5"));
+    ASSERT_NO_FATAL_FAILURE(test::AddInvoiceItem("Filter", "1"));
+    saveShot(*window("frmInvoice"), "road-b-invoice-composed");
+    ASSERT_NO_FATAL_FAILURE(test::road::press("frmInvoice", "cmdPrint"));
+    ASSERT_NO_FATAL_FAILURE(test::road::press("frmInvoice", "cmdInvoice(9)"));
+    saveShot(*window("frmInvoice"), "road-b-invoice-finalized");
+    ASSERT_NO_FATAL_FAILURE(test::road::press("frmInvoice", "cmdInvoiceContinue"));
+    EXPECT_TRUE(shown("frmStartup"));
+    // One print, the invoice; the clean-up's Yes took the slip's three files and the hand-over.
+    ASSERT_EQ(printed.files.size(), 1);
+    if (test::havePoppler()) {
+        const test::PdfText invoice = test::readPdf(printed.files[0]);
+        EXPECT_EQ(invoice.count("Labor"), 1);
+        EXPECT_EQ(invoice.count("$211.50"), 1);
+        test::savePages(printed.files[0], "road-b-invoice-pdf");
+    }
+    EXPECT_EQ(boxes.said.size(), 3) << boxes.said.join(u'|').toStdString();
+    for (const char* folder : {"/Appointments/", "/Services/", "/SoldItems/"})
+        EXPECT_FALSE(t.isFile(QLatin1String(folder) + "1 - 327-1.txt")) << folder;
+    EXPECT_FALSE(t.isFile("/FileToPrint.txt"));
+
+    // Every file the posting wrote, byte for byte, the fixed records put together here by hand.
+    const auto field = [](const QByteArray& text, int width) { return text + QByteArray(width - text.size(), ' '); };
+    const auto dateBytes = [](const QDate& d) {
+        const double days = static_cast<double>(QDate(1899, 12, 30).daysTo(d));
+        return QByteArray(reinterpret_cast<const char*>(&days), 8);
+    };
+    const auto int16Bytes = [](qint16 v) { return QByteArray(reinterpret_cast<const char*>(&v), 2); };
+    // The slip's two filters and the one added on the invoice, once per line.
+    EXPECT_EQ(t.readBytes("/SoldItems.txt"),
+              field("Filter", 60) + dateBytes(today) + field("20260001", 20) + int16Bytes(2) +
+                  field("Filter", 60) + dateBytes(today) + field("20260001", 20) + int16Bytes(1));
+    // A first invoice opens the ledger with its previous balance.
+    EXPECT_EQ(t.readBytes("/OIActiveAccounts/1001.txt"),
+              field("Ann Archer", 45) + field("1001", 25) + field("11/23/2026", 15) + field("Previous Balance", 60) +
+                  field("$0.00", 10) + field("Ann Archer", 45) + field("1001", 25) + field("11/23/2026", 15) +
+                  field("20260001", 60) + field("$211.50", 10));
+    // 4 % on the taxed filters, $37.50; labor is not taxed.
+    EXPECT_EQ(t.readBytes("/TaxRecords.txt"),
+              field("Sales Tax", 20) + field("11/23/2026", 15) + field("20260001", 30) + field("1.5", 10));
+    EXPECT_EQ(t.readBytes("/CompletedInvoices/20260001.txt"),
+              "20260001\r\n1001\r\nAnn Archer\r\n11/23/2026\r\n$211.50\r\n"
+              "\"Ann Archer\"\r\n\"12 Elm St\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n"
+              "\"Ann Archer\"\r\n\"12 Elm St\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n"
+              "None\r\n11/23/2026\r\n20260001\r\n1001\r\nPrepared 11/23/2026\r\n\r\n4\r\n"
+              "1\r\nTune Up\r\n11/23/2026\r\n$45.00\r\n$45.00\r\nFalse\r\n"
+              "2\r\nFilter\r\n\r\n$12.50\r\n$25.00\r\nTrue\r\n"
+              "1.5 Hrs\r\nGeneral Labor\r\n\r\n$85.00\r\n$127.50\r\nFalse\r\n"
+              "1\r\nFilter\r\n\r\n$12.50\r\n$12.50\r\nTrue\r\n"
+              "\"$210.00\",\"$1.50\",\"$0.00\",\"$211.50\",\"$0.00\",\"$0.00\",\"$0.00\"\r\n");
+    // Three filters left the shelf: 12 on hand become 9, the rest of the record as it was.
+    InventoriedItemRecord filter = test::item("Filter", "Parts");
+    ASSERT_EQ(stockBefore, filter.toRecord().bytes());
+    filter.OnHand = 9;
+    EXPECT_EQ(t.readBytes("/OIInventoriedItems.txt"), filter.toRecord().bytes());
+    EXPECT_EQ(t.readBytes("/OIInvoiceNo.txt"), "20260002\r\n");
+    // Shop/Repair style keeps no associate journal.
+    EXPECT_FALSE(t.isFile("/AssociateJournal.txt"));
+}

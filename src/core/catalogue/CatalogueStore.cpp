@@ -5,6 +5,7 @@
 #include "CustomItemRecord.h"
 #include "InventoriedItemRecord.h"
 #include "ServiceRecord.h"
+#include "shell/RecordFormats.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
 
@@ -212,6 +213,9 @@ bool CatalogueStore::LoadCustomItems() {
 }
 
 void CatalogueStore::LoadCatalogue() {
+    // A folder standing where a file belongs is named too, though the loads pass it over as absent.
+    for (const QString* name : {&ServiceRecord::kFileName, &InventoriedItemRecord::kFileName, &CustomItemRecord::kFileName})
+        if (m_disk.DirectoryExists(*name)) CheckRecordFileOnRead(m_disk, *name);
     LoadServices();
     LoadInventoriedItems();
     LoadCustomItems();
@@ -287,9 +291,16 @@ void CatalogueStore::SaveCatalogue() {
     const QVector<Record> services = serviceRecordsFromGrid();
     const QVector<Record> items = itemRecordsFromGrid();
     const QVector<Record> custom = customRecordsFromGrid();
-    WriteCatalogueRecords(m_disk, ServiceRecord::kFileName, ServiceRecord::kLength, services);
-    WriteCatalogueRecords(m_disk, InventoriedItemRecord::kFileName, InventoriedItemRecord::kLength, items);
-    WriteCatalogueRecords(m_disk, CustomItemRecord::kFileName, CustomItemRecord::kLength, custom);
+    // A damaged file the owner chose to keep is left alone; the other two are still saved.
+    const auto write = [&](const QString& name, int length, const QVector<Record>& records) {
+        try {
+            WriteCatalogueRecords(m_disk, name, length, records);
+        } catch (const DamagedFileKept&) {
+        }
+    };
+    write(ServiceRecord::kFileName, ServiceRecord::kLength, services);
+    write(InventoriedItemRecord::kFileName, InventoriedItemRecord::kLength, items);
+    write(CustomItemRecord::kFileName, CustomItemRecord::kLength, custom);
     LoadCatalogue();
 }
 

@@ -2,34 +2,21 @@
 
 #include "store/DiskRoutines.h"
 
-#include <cmath>
 #include <limits>
-#include <optional>
 
 namespace ostrel {
-
-namespace {
-
-// A stored number as a whole 32-bit value; nothing when the text is not one.
-std::optional<qint32> storedNumber(const QString& text) {
-    bool ok = false;
-    const double value = text.trimmed().toDouble(&ok);
-    if (!ok || !std::isfinite(value)) return std::nullopt;
-    const double whole = std::nearbyint(value);
-    if (whole < std::numeric_limits<qint32>::min() || whole > std::numeric_limits<qint32>::max())
-        return std::nullopt;
-    return static_cast<qint32>(whole);
-}
-
-} // namespace
 
 qint32 LoadInvoiceNumber(DiskRoutines& disk, const QDate& today) {
     const qint32 year = today.year();
     qint32 number = year * 10000 + 1;
     if (disk.FileExists(kInvoiceNumberFile)) {
         TextReader file = disk.ReadTextFile(kInvoiceNumberFile);
-        const std::optional<qint32> stored = file.atEnd() ? std::nullopt : storedNumber(file.readLine());
-        number = stored && *stored != 0 ? *stored : year * 10000;
+        // A number no Long can hold ("1e300", "nan") makes the file a bad file, named, and nothing
+        // is written over it; a text that is no number reads as 0.
+        const qint64 stored = file.atEnd() ? 0
+                                           : file.readIntegerLine(std::numeric_limits<qint32>::min(),
+                                                                  std::numeric_limits<qint32>::max());
+        number = stored != 0 ? static_cast<qint32>(stored) : year * 10000;
     }
     // The year is read off the front of the number's text, whatever its length.
     bool ok = false;

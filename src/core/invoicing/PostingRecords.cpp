@@ -76,14 +76,22 @@ void appendRecords(DiskRoutines& disk, const QString& name, int length, const QB
 
 void AddLedgerEntry(DiskRoutines& disk, const QString& account, const QString& name, const QString& amount,
                     const QString& comment, const QDate& date, const QDate& today) {
+    AddLedgerEntries(disk, account, {LedgerRecord{name, account, ShortDateText(date), comment, amount}}, today);
+}
+
+void AddLedgerEntries(DiskRoutines& disk, const QString& account, const QVector<LedgerRecord>& entries,
+                      const QDate& today) {
+    if (entries.isEmpty()) return;
     disk.MakeDirectoryIfAbsent(kLedgerFolder);
     const QString file = LedgerFileName(account);
     QByteArray records;
     if (!disk.FileExists(file))
-        records += LedgerRecord{name, account, ShortDateText(today), kPreviousBalance, FormatMoney(Money())}
+        records += LedgerRecord{entries[0].Name, entries[0].Account, ShortDateText(today), kPreviousBalance,
+                                FormatMoney(Money())}
                        .toRecord()
                        .bytes();
-    records += LedgerRecord{name, account, ShortDateText(date), comment, amount}.toRecord().bytes();
+    for (const LedgerRecord& entry : entries)
+        records += entry.toRecord().bytes();
     appendRecords(disk, file, LedgerRecord::kLength, records);
 }
 

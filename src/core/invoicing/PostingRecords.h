@@ -79,6 +79,11 @@ inline const QString kPreviousBalance = QStringLiteral("Previous Balance");
 // "Previous Balance" of nothing dated today; both records reach the disk together.
 void AddLedgerEntry(DiskRoutines& disk, const QString& account, const QString& name, const QString& amount,
                     const QString& comment, const QDate& date, const QDate& today);
+// Appends entries to one account's ledger in one step, so a crash leaves all of them or none. A
+// ledger that does not exist yet starts with a "Previous Balance" of nothing dated today, under the
+// first entry's name and account.
+void AddLedgerEntries(DiskRoutines& disk, const QString& account, const QVector<LedgerRecord>& entries,
+                      const QDate& today);
 // Appends one entry to /OAPaymentRecords.txt.
 void AddPaymentRecord(DiskRoutines& disk, const QString& account, const QString& name, const QString& amount,
                       const QString& comment, const QDate& date);

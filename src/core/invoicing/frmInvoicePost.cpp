@@ -192,10 +192,20 @@ void frmInvoice::PostInvoice() {
     }
 
     // 3 and 4. The customer's ledger, and a payment taken with the invoice.
-    AddLedgerEntry(disk, lblAcctNo.caption, lblCustomer[6].caption, txtGrandTotal.text, invoiceNo, today, today);
-    if (ckPrepaid.checked()) {
-        AddLedgerEntry(disk, lblAcct.caption, lblCustomer[0].caption, txtPrepaid.text, QStringLiteral("Payment Received"),
-                       today, today);
+    // Entries of one ledger go in together, so a crash leaves both or neither.
+    const LedgerRecord charged{lblCustomer[6].caption, lblAcctNo.caption, ShortDateText(today), invoiceNo,
+                               txtGrandTotal.text};
+    if (!ckPrepaid.checked()) {
+        AddLedgerEntries(disk, lblAcctNo.caption, {charged}, today);
+    } else {
+        const LedgerRecord paid{lblCustomer[0].caption, lblAcct.caption, ShortDateText(today),
+                                QStringLiteral("Payment Received"), txtPrepaid.text};
+        if (LedgerFileName(lblAcct.caption).compare(LedgerFileName(lblAcctNo.caption), Qt::CaseInsensitive) == 0) {
+            AddLedgerEntries(disk, lblAcctNo.caption, {charged, paid}, today);
+        } else {
+            AddLedgerEntries(disk, lblAcctNo.caption, {charged}, today);
+            AddLedgerEntries(disk, lblAcct.caption, {paid}, today);
+        }
         AddPaymentRecord(disk, lblAcct.caption, lblCustomer[0].caption, txtGrandTotal.text, cboPrepaid.text, SlipDate);
     }
 

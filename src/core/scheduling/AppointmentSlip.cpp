@@ -5,7 +5,6 @@
 #include "util/VbText.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace ostrel {
 
@@ -22,9 +21,8 @@ template <typename Read> auto readStatement(TextReader& in, const QString& what,
     return read();
 }
 
-qint16 toInt16(double v) {
-    return static_cast<qint16>(std::nearbyint(v));
-}
+// An Integer statement; one no Integer holds makes the file a bad file.
+qint16 readInt16(TextReader& in) { return static_cast<qint16>(in.readInteger(-32768, 32767)); }
 
 // The comment box's line breaks as the print statement puts them in a file.
 QString withFileLineEnds(const QString& text) {
@@ -60,7 +58,6 @@ TextWriter slipWriter(const AppointmentSlip& slip, bool commentAsItStands = fals
     return out;
 }
 
-
 AppointmentSlip readSlipFile(DiskRoutines& disk, const QString& slipName, CommentRead commentRead) {
     TextReader in = disk.ReadTextFile(appointmentFileName(slipName));
     AppointmentSlip s;
@@ -68,9 +65,9 @@ AppointmentSlip readSlipFile(DiskRoutines& disk, const QString& slipName, Commen
     s.SlipDate = readStatement(in, QStringLiteral("date"), [&] { return in.readDate(); });
     s.SlipName = readStatement(in, QStringLiteral("appointment number"), [&] { return in.readString(); });
     s.SlipPointOfService =
-        readStatement(in, QStringLiteral("Point of Service"), [&] { return toInt16(in.readNumber()); });
-    s.Slots = readStatement(in, QStringLiteral("time slots"), [&] { return toInt16(in.readNumber()); });
-    s.SlipStartRow = readStatement(in, QStringLiteral("start row"), [&] { return toInt16(in.readNumber()); });
+        readStatement(in, QStringLiteral("Point of Service"), [&] { return readInt16(in); });
+    s.Slots = readStatement(in, QStringLiteral("time slots"), [&] { return readInt16(in); });
+    s.SlipStartRow = readStatement(in, QStringLiteral("start row"), [&] { return readInt16(in); });
     for (QString& field : s.Customer)
         field = readStatement(in, QStringLiteral("customer fields"), [&] { return in.readString(); });
     s.SlipComment = readStatement(in, QStringLiteral("comments"), [&] {
@@ -162,7 +159,7 @@ std::vector<SlipService> ReadServicesFile(DiskRoutines& disk, const QString& sli
         if (!money)
             throw StoreError(name, QStringLiteral("The cost of %1 is no amount: %2").arg(s.name, QString::fromLatin1(cost)));
         s.cost = *money;
-        s.slots = readStatement(in, QStringLiteral("time of ") + s.name, [&] { return toInt16(in.readNumber()); });
+        s.slots = readStatement(in, QStringLiteral("time of ") + s.name, [&] { return readInt16(in); });
         services.push_back(std::move(s));
     }
     return services;
@@ -198,7 +195,7 @@ bool SoldItemsFileExists(DiskRoutines& disk, const QString& slipName) {
 }
 
 void WriteFileToPrint(DiskRoutines& disk, const QString& slipName) {
-    disk.DeleteDataFile(kFileToPrint);
+    // The new hand-over takes the old one's place in one step: a crash never leaves none.
     TextWriter out;
     out.writeString(slipName);
     disk.ReplaceTextFile(kFileToPrint, out);

@@ -23,6 +23,11 @@ Session::Session(const QString& dataRoot, Platform& platform_)
     : root(dataRoot), disk(root), platform(platform_) {
     m_splash = std::make_unique<frmSplash>(*this);
     m_startup = std::make_unique<frmStartup>(*this);
+    disk.SetDamageHooks([this](const QString& name, const QString& problem) { ShowMessage(DamagedFileMessage(name, problem), kDamagedFileTitle); },
+                        [this](const QString& name, const QString& problem) {
+                            return platform.dialogs.MsgBox(DamagedFileQuestion(name, problem), vbYesNo + vbExclamation + vbDefaultButton2,
+                                                           kDamagedFileTitle) == vbYes;
+                        });
 }
 
 Session::~Session() = default;
@@ -30,6 +35,10 @@ Session::~Session() = default;
 Session::StartResult Session::Main() {
     // 1. One copy per data folder; nothing has touched the disk yet.
     if (!platform.instance.TryAcquire()) {
+        if (platform.instance.FolderNotWritable()) {
+            ShowMessage(FolderNotWritableMessage(root.root()), platform.app.title());
+            return StartResult::FolderNotWritable;
+        }
         platform.dialogs.MsgBox(platform.app.title() + QStringLiteral(" is already Running!") + u'\n' +
                                     QStringLiteral("Look for it on the Task Bar"),
                                 vbOKOnly);
@@ -59,6 +68,7 @@ Session::StartResult Session::Main() {
     RegisterScreen(ScreenId::frmStartup, *m_startup);
     LoadScreen(ScreenId::frmServices);
     LoadScreen(ScreenId::frmAppointments);
+    m_started = true;
     return StartResult::Running;
 }
 

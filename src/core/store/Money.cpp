@@ -8,8 +8,10 @@
 namespace ostrel {
 
 Money Money::fromDouble(double value) {
-    if (!std::isfinite(value)) return Money();
-    return Money(static_cast<qint64>(std::nearbyint(value * 10000.0)));
+    const double scaled = std::nearbyint(value * 10000.0);
+    // Compared as a double first: converting a value no 64-bit count can hold is undefined.
+    if (!std::isfinite(scaled) || scaled < -9223372036854775808.0 || scaled >= 9223372036854775808.0) return Money();
+    return Money(static_cast<qint64>(scaled));
 }
 
 std::optional<Money> Money::fromStatementText(QByteArrayView text) {

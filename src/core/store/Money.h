@@ -16,7 +16,8 @@ public:
     constexpr Money() = default;
     static constexpr Money fromTenThousandths(qint64 v) { return Money(v); }
     static constexpr Money fromWhole(qint64 units) { return Money(units * 10000); }
-    // A double scaled to ten-thousandths, halves to even, as the old currency conversion rounds.
+    // A double scaled to ten-thousandths, halves to even, as the old currency conversion rounds;
+    // a value no count of ten-thousandths can hold (nan, inf, 1e300) gives nothing (zero).
     static Money fromDouble(double value);
     // The number form of a text statement ("120", "45.5", ".25", "-3.1416"), exactly; nothing for
     // any other text.

@@ -100,7 +100,14 @@ double TextField::toNumber() const {
     return end == t.constData() ? 0.0 : lead;
 }
 
-qint64 TextField::toInteger() const { return static_cast<qint64>(std::nearbyint(toNumber())); }
+std::optional<qint64> TextField::toIntegerIn(qint64 low, qint64 high) const {
+    const double d = std::nearbyint(toNumber());
+    // Compared as doubles first: a cast of a value out of range is undefined.
+    if (!std::isfinite(d) || d < -9223372036854775808.0 || d >= 9223372036854775808.0) return std::nullopt;
+    const qint64 n = static_cast<qint64>(d);
+    if (n < low || n > high) return std::nullopt;
+    return n;
+}
 
 bool TextField::toBoolean() const {
     if (!quoted && raw == "#TRUE#") return true;
@@ -156,6 +163,22 @@ void TextReader::skipDelimiter() {
     }
 }
 
+qint64 TextReader::readInteger(qint64 low, qint64 high) { return integerIn(readField(), low, high); }
+
+qint64 TextReader::readIntegerLine(qint64 low, qint64 high) {
+    TextField f;
+    f.raw = cp1252::encode(readLine());
+    return integerIn(f, low, high);
+}
+
+qint64 TextReader::integerIn(const TextField& f, qint64 low, qint64 high) const {
+    if (const std::optional<qint64> n = f.toIntegerIn(low, high)) return *n;
+    throw StoreError(m_file, QStringLiteral("The file holds \"%1\" where a whole number from %2 to %3 belongs.")
+                                 .arg(f.toString())
+                                 .arg(low)
+                                 .arg(high));
+}
+
 TextField TextReader::readField() {
     if (atEnd()) throwPastEnd();
     while (m_pos < m_bytes.size() && isBlank(m_bytes[m_pos])) ++m_pos;
@@ -166,6 +189,7 @@ TextField TextReader::readField() {
         while (m_pos < m_bytes.size() && m_bytes[m_pos] != '"') ++m_pos;
         f.raw = m_bytes.mid(start, m_pos - start);
         if (m_pos < m_bytes.size()) ++m_pos; // closing quote
+        else f.unterminated = true;
         // Whatever stands between the closing quote and the next delimiter is passed over.
         while (m_pos < m_bytes.size() && m_bytes[m_pos] != ',' && !isLineEnd(m_bytes[m_pos])) ++m_pos;
     } else {

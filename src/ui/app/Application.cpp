@@ -23,6 +23,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 
 static void initUiResources() { Q_INIT_RESOURCE(ui); }
 
@@ -38,6 +39,9 @@ Application::Application(AppInfo app, ApplicationOptions options)
       m_platform{m_dialogs,  options.clock ? *options.clock : m_clock, m_instance, m_browser, m_app, m_serial,
                  m_printDialogs} {
     InitResources();
+    // Every window shows the program's icon; the desktop entry of an installed copy shows the same.
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/icon.png")));
+    QGuiApplication::setDesktopFileName(QStringLiteral("ostrel-appointment-scheduler"));
     m_session = std::make_unique<Session>(m_lockRoot.root(), m_platform);
     m_session->endProcess = [] { QCoreApplication::quit(); };
     Binder::setAlarmSwitch([this] { return m_session->settings.program.alarms(); });

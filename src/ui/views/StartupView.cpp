@@ -7,6 +7,7 @@
 #include "shell/frmStartup.h"
 
 #include <QAction>
+#include <QButtonGroup>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -33,13 +34,14 @@ QLabel* heading(int index, QWidget* parent, int grow) {
     return l;
 }
 
-QWidget* group(int headingIndex, const int* routines, int count, QWidget* parent) {
+QWidget* group(int headingIndex, const int* routines, int count, QWidget* parent, QButtonGroup* set) {
     auto* box = new QGroupBox(parent);
     auto* l = new QVBoxLayout(box);
     l->addWidget(heading(headingIndex, box, 1));
     for (int i = 0; i < count; ++i) {
         auto* b = new QRadioButton(box);
         b->setObjectName(QStringLiteral("optMainMenuSub(%1)").arg(routines[i]));
+        set->addButton(b);
         l->addWidget(b);
     }
     l->addStretch(1);
@@ -94,9 +96,12 @@ StartupView::StartupView(Session& session, frmStartup& screen)
     top->addWidget(title, 1);
     body->addLayout(top);
 
+    // One set across both boxes: the boxes only group the routines for the eye.
+    auto* routines = new QButtonGroup(this);
+    routines->setExclusive(true);
     auto* groups = new QHBoxLayout;
-    groups->addWidget(group(1, kFileRoutines, int(std::size(kFileRoutines)), this), 1);
-    groups->addWidget(group(2, kAppointmentRoutines, int(std::size(kAppointmentRoutines)), this), 1);
+    groups->addWidget(group(1, kFileRoutines, int(std::size(kFileRoutines)), this, routines), 1);
+    groups->addWidget(group(2, kAppointmentRoutines, int(std::size(kAppointmentRoutines)), this, routines), 1);
     body->addLayout(groups, 1);
 
     auto* bottom = new QHBoxLayout;
@@ -113,6 +118,7 @@ StartupView::StartupView(Session& session, frmStartup& screen)
 
     binder().bindAll(screen.controls);
     Binder& b = binder();
+    b.onClick(screen.optMainMenuSub, [this](int i) { m_screen.optMainMenuSub_Click(i); });
     b.onDoubleClick(screen.optMainMenuSub, [this](int i) { m_screen.optMainMenuSub_DblClick(i); });
     b.onClick(screen.cmdGoto, [this] { m_screen.cmdGoto_Click(); });
     b.onClick(screen.Image1, [this] { m_screen.Image1_Click(); });
