@@ -7,6 +7,11 @@
 #include "catalogue/CatalogueLists.h"
 #include "catalogue/CatalogueStore.h"
 #include "catalogue/LaborRates.h"
+#include "invoicing/AssociateJournal.h"
+#include "invoicing/InvoiceImage.h"
+#include "invoicing/InvoiceNumber.h"
+#include "invoicing/PostingRecords.h"
+#include "scheduling/AppointmentSlip.h"
 #include "scheduling/DaySchedule.h"
 #include "scheduling/DaySchedulePurge.h"
 #include "setup/BusinessData.h"
@@ -25,9 +30,11 @@
 #include "store/StoreError.h"
 #include "store/TextStatements.h"
 #include "telephony/SpeedNumbers.h"
+#include "workorders/TermsFiles.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 namespace ostrel::fuzz {
@@ -40,6 +47,7 @@ DiskRoutines& scratch(const QString& name, const QByteArray& bytes) {
     static DataRoot root(dir.path());
     static DiskRoutines disk(root);
     disk.CloseAllFiles();
+    QDir().mkpath(QFileInfo(dir.path() + name).path());
     QFile f(dir.path() + name);
     if (f.open(QIODevice::WriteOnly | QIODevice::Truncate)) f.write(bytes);
     return disk;
@@ -147,11 +155,36 @@ void customers(const QByteArray& b) {
     guarded([&] { AuxData::ReadAuxHeadings(scratch(AuxData::kHeadingsFile, b)); });
 }
 
+void slip(const QByteArray& b) {
+    const QString slipName = QStringLiteral("1 - 326-3");
+    guarded([&] { ReadSlip(scratch(appointmentFileName(slipName), b), slipName); });
+    guarded([&] { ReadServicesFile(scratch(servicesFileName(slipName), b), slipName); });
+    guarded([&] { ReadSoldItemsFile(scratch(QStringLiteral("/SoldItems/") + slipName + QStringLiteral(".txt"), b), slipName); });
+    guarded([&] { ReadFileToPrint(scratch(QStringLiteral("/FileToPrint.txt"), b)); });
+    SlipCounter counter;
+    guarded([&] { LoadWorkSlipCounter(scratch(QStringLiteral("/SlipCounter.txt"), b), QDate(2026, 11, 22), 2, counter); });
+}
+void invoices(const QByteArray& b) {
+    guarded([&] { LoadInvoiceNumber(scratch(kInvoiceNumberFile, b), QDate(2026, 11, 22)); });
+    guarded([&] {
+        TextReader r(b, QStringLiteral("/CompletedInvoices/20260001.txt"));
+        ReadInvoiceImage(r);
+    });
+    guarded([&] { ReadCustomText(scratch(kCustomTermsFile, b), kCustomTermsFile); });
+    guarded([&] { ReadAssociateJournal(scratch(AssociateJournalRecord::kFileName, b)); });
+    guarded([&] {
+        for (const Record& r : ReadAllRecords(scratch(LedgerRecord::kPaymentFileName, b), LedgerRecord::kPaymentFileName,
+                                              LedgerRecord::kLength))
+            LedgerRecord::fromRecord(r);
+    });
+}
+
 const std::vector<Target> kTargets = {
     {"statements", statements}, {"settings", settings},         {"tax", tax},
     {"colours", colours},       {"logo", logo},                 {"business", business},
     {"phone", phone},           {"service_areas", serviceAreas}, {"day_schedule", daySchedule},
     {"last_purged", lastPurged}, {"catalogue", catalogue},      {"customers", customers},
+    {"slip", slip},             {"invoices", invoices},
 };
 
 } // namespace

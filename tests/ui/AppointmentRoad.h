@@ -94,6 +94,20 @@ inline void WriteRoadCatalogue(TestDataRoot& t) {
     t.disk().ReplaceTextFile(kLaborFileName, labor);
 }
 
+// The road's Monday morning, 23 November 2026.
+inline const QDate kRoadDay(2026, 11, 23);
+
+// The program started as installed on a first run, with the road's catalogue, at half past eight on
+// the road's day; every print goes into a PDF file of its own.
+inline void StartOnTheRoadsDay(ProgramWindows& w) {
+    w.clock.set(kRoadDay, QTime(8, 30));
+    w.options.clock = &w.clock;
+    w.options.choosePrinter = w.printed.chooser();
+    LayInstalledTree(w.t);
+    WriteRoadCatalogue(w.t);
+    w.start();
+}
+
 // Welcome, the logo into Setup, the business name and telephone, the Points of Service one by one,
 // Quit: the menu comes up.
 inline void FirstRunThroughSetup(ProgramWindows& w, const QString& business, const QString& telephone,
