@@ -8,7 +8,9 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 (cd "$build" && cpack -G DEB -B "$scratch/pkg" >/dev/null)
 deb=$(ls "$scratch"/pkg/*.deb)
-dpkg-deb --info "$deb" | grep -q "Depends: .*libqt6widgets6" || { echo "no Qt dependency in $deb"; exit 1; }
+# Read whole first: grep -q would end the pipe early and pipefail take the broken pipe for a failure.
+info=$(dpkg-deb --info "$deb")
+grep -q "Depends: .*libqt6widgets6" <<<"$info" || { echo "no Qt dependency in $deb"; exit 1; }
 dpkg -x "$deb" "$scratch/root"
 root="$scratch/root"
 for f in usr/bin/ostrel-appointment-scheduler usr/lib/ostrel-appointment-scheduler/OstrelAppointmentScheduler \

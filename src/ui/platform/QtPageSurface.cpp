@@ -85,6 +85,19 @@ std::optional<QSizeF> QtPageSurface::PictureSize(const QString& picture) {
     return QSizeF(px.width() * kTwipsPerPicturePixel, px.height() * kTwipsPerPicturePixel);
 }
 
+QRectF QtPageSurface::PrintableArea() const {
+    const QRectF sheet(0, 0, sheetWidth(), sheetHeight());
+    // A file is drawn whole, whatever margins the printer's set-up carried.
+    if (m_printer.outputFormat() != QPrinter::NativeFormat) return sheet;
+    // The printer's own unprintable strips, for the orientation the job prints in.
+    QPageLayout layout = m_printer.pageLayout();
+    layout.setOrientation(Orientation == kLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    layout.setUnits(QPageLayout::Point);
+    const QMarginsF m = layout.minimumMargins() * 20.0; // 20 twips to the point
+    const QRectF area = sheet.marginsRemoved(m);
+    return area.isValid() ? area : sheet;
+}
+
 void QtPageSurface::applyPageSettings() {
     m_printer.setPageSize(QPageSize(QPageSize::Letter));
     m_printer.setPageOrientation(Orientation == kLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
