@@ -15,16 +15,6 @@ namespace ostrel {
 
 namespace {
 
-// Adds an item to a list that may be sorted and gives the index it took.
-int addAndLocate(ListControl& list, const QString& item) {
-    const QStringList before = list.items;
-    list.AddItem(item);
-    int i = 0;
-    while (i < before.size() && before[i] == list.items[i])
-        ++i;
-    return i;
-}
-
 void addRow(Grid& g, std::initializer_list<QString> cells) {
     const int row = g.Rows();
     g.SetRows(row + 1);
@@ -210,7 +200,7 @@ bool CatalogueStore::LoadCustomItems() {
         g.SetTextMatrix(row, 2, currencytext::format(item.DiscountPrice));
         g.SetTextMatrix(row, 3, QString::number(item.DiscountQuantity));
         // The description list is sorted; its item data leads back to the price list, kept in file order.
-        const int at = addAndLocate(invoice.cboDescription[2], description);
+        const int at = invoice.cboDescription[2].AddItem(description);
         invoice.cboDescription[2].SetItemData(at, row - 1);
         invoice.cboPrice[2].AddItem(price);
         create.cboItems.AddItem(description);

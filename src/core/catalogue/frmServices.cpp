@@ -25,8 +25,8 @@ const char* const kInstructions[] = {
     "Up to three labor headings, each with its hourly rate.",
     "Can be Added when Printing an Invoice",
     "Services and items are written to the files when you return to the Menu, and when this screen closes.",
-    "Labor rates are written with Save Labor Rates, and when this screen closes (Files | Exit or the window's "
-    "close button).",
+    ("Labor rates are written with Save Labor Rates, and when this screen closes (Files | Exit or the window's "
+     "close button)."),
 };
 
 void setHeadings(Grid& g, std::initializer_list<const char*> headings) {

@@ -163,12 +163,14 @@ void frmInvoice::PostInvoice() {
     const QString invoiceNo = txtInvoiceNo.text.trimmed();
 
     // 1. Sold items: each line whose description is a catalogue item, once per listing.
-    const ComboBox& catalogueItems = m_lists.frmCreate.cboItems;
+    QStringList catalogueItems = m_lists.frmCreate.cboItems.items;
+    for (QString& entry : catalogueItems)
+        entry = entry.trimmed();
     QVector<SoldItemRecord> sold;
     for (int row = 1; row <= LineCount; ++row) {
         const QString description = fgInvoice.TextMatrix(row, kDescription).trimmed();
-        for (const QString& entry : catalogueItems.items) {
-            if (entry.trimmed() != description) continue;
+        for (const QString& entry : catalogueItems) {
+            if (entry != description) continue;
             sold.push_back({description, today, QString::number(NextInvoiceNo),
                             wholeQuantity(fgInvoice.TextMatrix(row, kQuantity))});
         }
