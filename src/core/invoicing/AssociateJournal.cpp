@@ -36,7 +36,7 @@ AssociateJournalRecord AssociateJournalRecord::fromRecord(const Record& r) {
     AssociateJournalRecord j;
     j.Transaction = r.text(kTransaction, kTransactionWidth);
     j.Account = r.text(kAccount, kAccountWidth);
-    j.JournalDate = r.date(kDate);
+    j.JournalDate = DayOf(r.float64(kDate));
     j.Associate = r.text(kAssociate, kAssociateWidth);
     j.SubTotal = Money::fromTenThousandths(r.currency(kSubTotal));
     j.Tax = Money::fromTenThousandths(r.currency(kTax));

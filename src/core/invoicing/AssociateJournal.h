@@ -6,6 +6,8 @@
 #include <QString>
 #include <QVector>
 
+#include <cmath>
+
 namespace ostrel {
 
 class DiskRoutines;
@@ -29,6 +31,13 @@ struct AssociateJournalRecord {
     Money Tax;      // both taxes together
     Money Discount; // posting always writes 0
     Money Gross;    // the grand total
+
+    // The day of a stored date, without the cost of a local date-time: the whole days since
+    // 1899-12-30 (the time of day dropped), as the record's own date read counts them.
+    static QDate DayOf(double storedDays) {
+        if (!std::isfinite(storedDays) || std::fabs(storedDays) > 3e6) return {};
+        return QDate(1899, 12, 30).addDays(static_cast<qint64>(std::trunc(storedDays)));
+    }
 
     Record toRecord() const;
     static AssociateJournalRecord fromRecord(const Record& record);

@@ -53,7 +53,7 @@ void frmSales::DeleteRecords() {
     Record r(len);
     for (qsizetype offset = 0; offset < records.size(); offset += len) {
         r.bytes() = records.mid(offset, len);
-        const QDate date = r.date(AssociateJournalRecord::kDateOffset);
+        const QDate date = AssociateJournalRecord::DayOf(r.float64(AssociateJournalRecord::kDateOffset));
         if (date < m_start || date > m_end) kept += r.bytes();
     }
 
