@@ -3,9 +3,12 @@
 #include "store/StoreError.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
 
 using namespace ostrel;
 using ostrel::test::TestDataRoot;
@@ -237,6 +240,46 @@ TEST(LoadWorkSlipCounter, AnAbsentCounterIsRestoredFromTheBackupAndTheBackupIsDr
     EXPECT_EQ(c.SlipId, "319-9");
     EXPECT_EQ(t.readBytes("/SlipCounter.txt"), "\"319\",9\r\n");
     EXPECT_FALSE(t.isFile("/Backup/SlipCounter.txt"));
+}
+
+TEST(LoadWorkSlipCounter, ACounterThatAlreadyHoldsTheSameBytesIsNotWrittenAgain) {
+    TestDataRoot t;
+    makeSlipFolders(t);
+    t.writeBytes("/SlipCounter.txt", "\"319\",5\r\n");
+    const auto inode = [&] {
+        struct stat st {};
+        EXPECT_EQ(::stat(QFile::encodeName(t.full("/SlipCounter.txt")).constData(), &st), 0);
+        return st.st_ino;
+    };
+    const auto before = inode();
+    SlipCounter c;
+    LoadWorkSlipCounter(t.disk(), QDate(2026, 11, 15), 2, c);
+    EXPECT_EQ(c.SlipId, "319-5");
+    EXPECT_EQ(t.readBytes("/SlipCounter.txt"), "\"319\",5\r\n");
+    // A safe replace would have put a new file in its place.
+    EXPECT_EQ(inode(), before);
+}
+
+TEST(LoadWorkSlipCounter, AnUnchangedCounterStillLosesItsBackupCopy) {
+    TestDataRoot t;
+    makeSlipFolders(t);
+    t.makeDir("/Backup");
+    t.writeBytes("/SlipCounter.txt", "\"319\",5\r\n");
+    t.writeBytes("/Backup/SlipCounter.txt", "\"319\",4\r\n");
+    SlipCounter c;
+    LoadWorkSlipCounter(t.disk(), QDate(2026, 11, 15), 2, c);
+    EXPECT_EQ(t.readBytes("/SlipCounter.txt"), "\"319\",5\r\n");
+    EXPECT_FALSE(t.isFile("/Backup/SlipCounter.txt"));
+}
+
+TEST(LoadWorkSlipCounter, ACounterOfTheSameNumberInOtherBytesIsRewrittenInTheProgramsForm) {
+    TestDataRoot t;
+    makeSlipFolders(t);
+    t.writeBytes("/SlipCounter.txt", "\"319\", 5\n");
+    SlipCounter c;
+    LoadWorkSlipCounter(t.disk(), QDate(2026, 11, 15), 2, c);
+    EXPECT_EQ(c.SlipId, "319-5");
+    EXPECT_EQ(t.readBytes("/SlipCounter.txt"), "\"319\",5\r\n");
 }
 
 TEST(LoadWorkSlipCounter, ACollidingSlipStaysWhereItIsBecauseTheSweepNamesTheBareNumber) {

@@ -1,4 +1,4 @@
-#include "catalogue/CurrencyText.h"
+#include "store/CurrencyText.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +11,10 @@ TEST(CatalogueCurrencyText, ShowsDollarsWithThousandsCommasAndTwoDecimals) {
     EXPECT_EQ(currencytext::format(12345000), QStringLiteral("$1,234.50"));
     EXPECT_EQ(currencytext::format(12345678900000), QStringLiteral("$1,234,567,890.00"));
     EXPECT_EQ(currencytext::format(4500), QStringLiteral("$0.45"));
+    EXPECT_EQ(currencytext::format(9999900), QStringLiteral("$999.99"));
+    EXPECT_EQ(currencytext::format(10000000), QStringLiteral("$1,000.00"));
+    EXPECT_EQ(currencytext::format(1000000000), QStringLiteral("$100,000.00"));
+    EXPECT_EQ(currencytext::format(-10000), QStringLiteral("($1.00)"));
 }
 
 TEST(CatalogueCurrencyText, ShowsNegativesInParentheses) {
@@ -19,10 +23,15 @@ TEST(CatalogueCurrencyText, ShowsNegativesInParentheses) {
               QStringLiteral("($922,337,203,685,477.58)"));
 }
 
-TEST(CatalogueCurrencyText, RoundsToCentsHalfAwayFromZero) {
-    EXPECT_EQ(currencytext::format(1050), QStringLiteral("$0.11"));
+TEST(CatalogueCurrencyText, RoundsToCentsHalfAwayFromZeroButAHalfBelowInBinaryDown) {
+    EXPECT_EQ(currencytext::format(1051), QStringLiteral("$0.11"));
     EXPECT_EQ(currencytext::format(1049), QStringLiteral("$0.10"));
-    EXPECT_EQ(currencytext::format(-1050), QStringLiteral("($0.11)"));
+    EXPECT_EQ(currencytext::format(1250), QStringLiteral("$0.13"));  // 0.125 is exact in binary
+    EXPECT_EQ(currencytext::format(-1250), QStringLiteral("($0.13)"));
+    EXPECT_EQ(currencytext::format(3350), QStringLiteral("$0.34"));  // 0.335 lies just above
+    EXPECT_EQ(currencytext::format(1050), QStringLiteral("$0.10"));  // 0.105 lies just below
+    EXPECT_EQ(currencytext::format(480550), QStringLiteral("$48.05"));
+    EXPECT_EQ(currencytext::format(-480550), QStringLiteral("($48.05)"));
 }
 
 TEST(CatalogueCurrencyText, ReadsTheShownFormAndPlainNumbers) {

@@ -1,6 +1,6 @@
 #include "TestDataRoot.h"
 #include "catalogue/CatalogueStore.h"
-#include "catalogue/CurrencyText.h"
+#include "store/CurrencyText.h"
 #include "catalogue/CustomItemRecord.h"
 #include "catalogue/InventoriedItemRecord.h"
 #include "catalogue/VolumePrice.h"

@@ -115,13 +115,16 @@ TEST(DeleteCustomer, DropsTheBackupCopiesOfTheThreeFiles) {
     EXPECT_FALSE(s.t.isFile("/Backup/ContractInfo.txt"));
 }
 
-TEST(DeleteCustomer, AnAccountThatWouldLeaveTheDataFolderStopsItBeforeAnyFileChanges) {
-    Shop s(2);
-    const QByteArray customers = s.t.readBytes("/CustomerData.txt");
-    EXPECT_THROW(s.store.DeleteCustomer(1, "../CustomerData", 2), StoreError);
-    EXPECT_THROW(s.store.DeleteCustomer(1, "12\\34", 2), StoreError);
-    EXPECT_EQ(s.t.readBytes("/CustomerData.txt"), customers);
-    EXPECT_EQ(s.column("/CycleInfo.txt", 69), (QStringList{"Y1", "Y2"}));
+TEST(DeleteCustomer, AnAccountThatCannotNameAFileIsDeletedAndNoPathLeavesTheDataFolder) {
+    Shop s(3);
+    s.t.writeBytes("/OIActiveAccounts/12.txt", "kept");
+    // "../CustomerData" would name the customer file itself were it taken as a path.
+    EXPECT_EQ(s.store.DeleteCustomer(1, "../CustomerData", 3), 2);
+    EXPECT_EQ(s.column("/CustomerData.txt", 328), (QStringList{"C2", "C3"}));
+    EXPECT_EQ(s.store.DeleteCustomer(1, "12\\34", 2), 1);
+    EXPECT_EQ(s.column("/CustomerData.txt", 328), (QStringList{"C3"}));
+    EXPECT_EQ(s.column("/CycleInfo.txt", 69), (QStringList{"Y3"}));
+    EXPECT_EQ(s.t.readBytes("/OIActiveAccounts/12.txt"), "kept");
 }
 
 TEST(DeleteCustomer, AMissingCompanionStaysMissingForTheNextRebuild) {

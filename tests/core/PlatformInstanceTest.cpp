@@ -2,7 +2,14 @@
 #include "TestDataRoot.h"
 #include "platform/LockFileInstance.h"
 
+#include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
+#include <QSysInfo>
+
+#include <csignal>
+#include <cstdlib>
+#include <sys/stat.h>
 
 #include <gtest/gtest.h>
 
@@ -93,4 +100,89 @@ TEST(FakeInstance, RefusesWhenAnotherCopyIsSaidToRun) {
     EXPECT_TRUE(instance.TryAcquire());
     EXPECT_TRUE(instance.held);
     EXPECT_EQ(2, instance.attempts);
+}
+
+namespace {
+
+const QString kLock = QStringLiteral("/.OstrelAppointmentScheduler.lock");
+
+bool startsOn(test::TestDataRoot& data) {
+    LockFileInstance instance(data.root(), kProgram);
+    return instance.TryAcquire();
+}
+
+} // namespace
+
+TEST(LockFileInstance, ALockNamingAnotherHostIsRecovered) {
+    test::TestDataRoot data;
+    data.writeBytes(kLock, QByteArray::number(::getpid()) + "\nOstrelAppointmentScheduler\nsome-other-machine\n");
+    EXPECT_TRUE(startsOn(data));
+}
+
+TEST(LockFileInstance, AnEmptyLockFileIsRecovered) {
+    test::TestDataRoot data;
+    data.writeBytes(kLock, {});
+    EXPECT_TRUE(startsOn(data));
+}
+
+TEST(LockFileInstance, AGarbageLockFileIsRecovered) {
+    test::TestDataRoot data;
+    data.writeBytes(kLock, QByteArray("\x01\xff garbage \x00\x02", 14));
+    EXPECT_TRUE(startsOn(data));
+}
+
+TEST(LockFileInstance, ALockOlderThanTheMachinesStartIsRecovered) {
+    test::TestDataRoot data;
+    // It names this very process on this machine, which no copy started before the machine could be.
+    data.writeBytes(kLock, QByteArray::number(::getpid()) + "\n\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    QFile f(data.full(kLock));
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(f.setFileTime(QDateTime::fromSecsSinceEpoch(86400), QFileDevice::FileModificationTime));
+    f.close();
+    EXPECT_TRUE(startsOn(data));
+}
+
+TEST(LockFileInstance, ALockHeldByALiveCopyInAnotherProcessRefuses) {
+    test::TestDataRoot data;
+    int ready[2];
+    ASSERT_EQ(0, ::pipe(ready));
+    const pid_t child = ::fork();
+    ASSERT_NE(-1, child);
+    if (child == 0) {
+        LockFileInstance running(data.root(), kProgram);
+        const char ok = running.TryAcquire() ? 'y' : 'n';
+        (void)!::write(ready[1], &ok, 1);
+        ::pause();
+        ::_exit(0);
+    }
+    char ok = 0;
+    ASSERT_EQ(1, ::read(ready[0], &ok, 1));
+    ASSERT_EQ('y', ok);
+    LockFileInstance second(data.root(), kProgram);
+    EXPECT_FALSE(second.TryAcquire());
+    EXPECT_FALSE(second.FolderNotWritable());
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    EXPECT_TRUE(second.TryAcquire()); // and once it has died, its lock is taken over
+    ::close(ready[0]);
+    ::close(ready[1]);
+}
+
+TEST(LockFileInstance, AFolderThatCannotBeWrittenIsToldApartFromASecondCopy) {
+    test::TestDataRoot data;
+    const QByteArray folder = QFile::encodeName(data.path());
+    if (::geteuid() == 0) {
+        // The owner of every folder: only an immutable folder refuses it.
+        if (std::system(("chattr +i '" + folder + "' 2>/dev/null").constData()) != 0)
+            GTEST_SKIP() << "cannot make a folder unwritable here";
+    } else {
+        ::chmod(folder.constData(), 0555);
+    }
+    LockFileInstance instance(data.root(), kProgram);
+    const bool started = instance.TryAcquire();
+    const bool unwritable = instance.FolderNotWritable();
+    if (::geteuid() == 0) (void)!std::system(("chattr -i '" + folder + "'").constData());
+    else ::chmod(folder.constData(), 0755);
+    EXPECT_FALSE(started);
+    EXPECT_TRUE(unwritable);
 }

@@ -7,6 +7,7 @@
 #include "shell/Session.h"
 #include "shell/frmSplash.h"
 #include "shell/frmStartup.h"
+#include "scheduling/frmBlock.h"
 #include "telephony/frmDialer.h"
 
 #include <gtest/gtest.h>
@@ -121,4 +122,11 @@ TEST_F(WholeProgram, EndingTheProgramUnloadsTheCatalogueWhichWritesItsFiles) {
                                                     "\"\",\"$0.00\"\r\n"));
     for (ScreenId id : {ScreenId::frmSetup, ScreenId::frmNewCustomer, ScreenId::frmServices, ScreenId::frmDialer})
         EXPECT_FALSE(session->FindScreen(id)->isVisible());
+}
+
+TEST_F(WholeProgram, TheBlockedDaysScreenIsPartOfTheProgramWithItsAllAssignmentsEntry) {
+    t.writeBytes("/ServiceAreas.txt", "\"Crew One\"\r\n\"Crew Two\"\r\n");
+    ASSERT_EQ(session->Main(), Session::StartResult::Running);
+    EXPECT_EQ(session->ScreenAs<frmBlock>(ScreenId::frmBlock), &screens.block);
+    EXPECT_EQ(screens.block.lstAssignto.items, (QStringList{"Crew One", "Crew Two", "All Assignments"}));
 }

@@ -99,6 +99,120 @@ TEST_F(ShellFixture, ASecondCopyIsRefusedBeforeTouchingTheDisk) {
     EXPECT_TRUE(t.root().list("/").isEmpty());
 }
 
+TEST_F(ShellFixture, ClicksOnTheWelcomeScreenDuringTheModemProbeReachNoScreenNotLoadedYet) {
+    writeSetupFiles();
+    t.writeBytes("/Services.txt", QByteArray(72, ' '));
+    StandInScreen setup("frmSetup");
+    session.RegisterScreen(ScreenId::frmSetup, setup);
+    fake.serialMachine.attach(1, test::ScriptedDevice::of(test::ScriptedDevice::Kind::Silent));
+    int clicks = 0;
+    fake.serialMachine.duringWait = [&](int) {
+        ++clicks;
+        session.splash().cmdContinue_Click();
+        session.splash().Image1_Click(1);
+        session.splash().Image1_Click(0);
+    };
+    ASSERT_EQ(session.Main(), Session::StartResult::Running);
+    fake.serialMachine.duringWait = nullptr;
+    ASSERT_GT(clicks, 0) << "the probe never waited, so no click came early";
+    EXPECT_TRUE(session.splash().isVisible());
+    EXPECT_FALSE(setup.isVisible());
+    EXPECT_TRUE(fake.dialogs.boxes().isEmpty()) << fake.dialogs.boxes().size();
+    // Once started, Continue goes on to the menu and the welcome screen makes way for it.
+    session.splash().cmdContinue_Click();
+    EXPECT_TRUE(session.startup().isVisible());
+    EXPECT_FALSE(session.splash().isVisible());
+}
+
+namespace {
+
+// One start of the program with a slow, silent device on the first port; during the probe's wait,
+// which lets the owner's events through, the clicks come in the order given: 'C' Continue, 'S' the
+// logo that opens Setup, 'L' the other logo.
+struct EarlyClickRun {
+    TestDataRoot t;
+    FakePlatform fake{t.path()};
+    Session session{t.path(), fake};
+    StandInScreen setup{"frmSetup"};
+    bool processEnded = false;
+    int waits = 0;
+
+    EarlyClickRun(bool setupFiles, const QByteArray& clicks) {
+        session.endProcess = [this] { processEnded = true; };
+        if (setupFiles) {
+            t.writeBytes("/MyBusinessData.txt", "\"Shop\",\"\",\"\",\"\",\"\",\"\",\"555-1234\",\"\",\"\"\r\n");
+            t.writeBytes("/ServiceAreas.txt", "\"Crew One\"\r\n\"Crew Two\"\r\n");
+            t.writeBytes("/TaxSettings.txt", "\"Sales Tax\",\"\",\"6.25\",\"0\",1,0\r\n");
+            t.writeBytes("/OstrelAppointmentSchedulerSettings.txt",
+                         "1,0,0,0,0,#TRUE#,#FALSE#,0,0,0,\"$0.00\",\"$0.00\",5,1,1,#TRUE#,1,1,1\r\n");
+        }
+        t.writeBytes("/Services.txt", QByteArray(72, ' '));
+        session.RegisterScreen(ScreenId::frmSetup, setup);
+        fake.serialMachine.attach(1, test::ScriptedDevice::of(test::ScriptedDevice::Kind::Silent));
+        fake.serialMachine.duringWait = [this, clicks](int) {
+            ++waits;
+            for (const char c : clicks) {
+                if (c == 'C') session.splash().cmdContinue_Click();
+                if (c == 'S') session.splash().Image1_Click(1);
+                if (c == 'L') session.splash().Image1_Click(0);
+            }
+        };
+    }
+};
+
+} // namespace
+
+TEST(StartupClicks, ClicksDuringASlowProbeLeadToTheMenuOrSetupAfterwardsAndClosingTheMenuEndsTheRun) {
+    for (const bool setupFiles : {true, false}) {
+        for (const QByteArray clicks : {QByteArray("C"), QByteArray("S"), QByteArray("L"), QByteArray("CS"),
+                                        QByteArray("SCC"), QByteArray("LSC")}) {
+            SCOPED_TRACE(QStringLiteral("setup files %1, clicks %2").arg(setupFiles).arg(QString::fromLatin1(clicks))
+                             .toStdString());
+            EarlyClickRun run(setupFiles, clicks);
+            Session& session = run.session;
+            ASSERT_EQ(session.Main(), Session::StartResult::Running);
+            ASSERT_GT(run.waits, 0) << "the probe never waited, so no click came early";
+            // Nothing the clicks could reach was shown or said, and the welcome screen waits.
+            EXPECT_TRUE(run.fake.dialogs.boxes().isEmpty()) << run.fake.dialogs.boxes().size();
+            EXPECT_TRUE(session.splash().isVisible());
+            EXPECT_FALSE(session.startup().isVisible());
+            EXPECT_FALSE(run.setup.isVisible());
+            EXPECT_TRUE(run.fake.instance.held);
+
+            session.splash().cmdContinue_Click();
+            if (!setupFiles) {
+                // A first run: the welcome frame, and the logo on to Setup.
+                EXPECT_TRUE(session.splash().fraWelcome.visible);
+                session.splash().Image1_Click(1);
+                EXPECT_TRUE(run.setup.isVisible());
+                EXPECT_FALSE(session.splash().isVisible());
+                continue;
+            }
+            ASSERT_TRUE(session.startup().isVisible());
+            EXPECT_FALSE(session.splash().isVisible());
+            // Closing the menu ends the run: the process is told to end, the lock is let go and no
+            // screen stays shown.
+            session.startup().mnuExit_Click();
+            EXPECT_TRUE(session.hasEnded());
+            EXPECT_TRUE(run.processEnded);
+            EXPECT_FALSE(run.fake.instance.held);
+            EXPECT_FALSE(session.startup().isVisible());
+            EXPECT_FALSE(session.splash().isVisible());
+            EXPECT_FALSE(run.setup.isVisible());
+        }
+    }
+}
+
+TEST_F(ShellFixture, AFolderThatCannotBeWrittenIsSaidSoAndNotTakenForASecondCopy) {
+    fake.instance.folderNotWritable = true;
+    EXPECT_EQ(session.Main(), Session::StartResult::FolderNotWritable);
+    EXPECT_BOX(fake.dialogs, "", FolderNotWritableMessage(t.root().root()));
+    const QString said = FolderNotWritableMessage(t.root().root());
+    EXPECT_FALSE(said.contains("already Running"));
+    EXPECT_TRUE(said.contains(t.root().root()));
+    EXPECT_TRUE(t.root().list("/").isEmpty());
+}
+
 TEST_F(ShellFixture, AnEmptyServiceAreasFileIsPopulatedWithNoNamesAndOnlyAllAssignments) {
     t.writeBytes("/ServiceAreas.txt", {});
     ListControl setupList, blockList, createList;

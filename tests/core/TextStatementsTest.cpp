@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdlib>
+
 using namespace ostrel;
 
 TEST(QuotedWrite, WritesEveryValueKindInItsForm) {
@@ -90,6 +93,51 @@ TEST(FieldRead, ReadsBooleansDatesNullAndEmpty) {
     EXPECT_FALSE(empty.quoted);
     EXPECT_EQ(r.readString(), "");
     EXPECT_TRUE(r.atEnd());
+}
+
+TEST(FieldRead, DatesReadAsTheDateParserReadsThemInEveryForm) {
+    const auto parsed = [](const QByteArray& text) {
+        QDate d = QDate::fromString(QString::fromLatin1(text.left(10)), u"yyyy-MM-dd");
+        if (!d.isValid()) d = QDate::fromString(QString::fromLatin1(text), u"M/d/yyyy");
+        return d;
+    };
+    for (QDate d(1999, 1, 1); d <= QDate(2031, 12, 31); d = d.addDays(1)) {
+        const QByteArray text = d.toString(Qt::ISODate).toLatin1();
+        TextReader r("#" + text + "#\r\n", "/x");
+        ASSERT_EQ(r.readDate(), d) << text.constData();
+    }
+    for (const QByteArray& text : {QByteArray("2026-02-30"), QByteArray("2026-13-01"), QByteArray("0000-01-01"),
+                                  QByteArray("2026-1-5"), QByteArray("2026-11-27 10:30:00"), QByteArray("11/27/2026"),
+                                  QByteArray("2026-11-2x"), QByteArray("+026-11-27"), QByteArray("2026/11/27"),
+                                  QByteArray("12/31/1999"), QByteArray("")}) {
+        TextReader r("#" + text + "#\r\n", "/x");
+        EXPECT_EQ(r.readDate(), parsed(text)) << text.constData();
+    }
+    TextReader cut("#2026-02-30#\r\n", "/x");
+    EXPECT_FALSE(cut.readDate().isValid());
+}
+
+TEST(FieldRead, WholeNumbersReadAsTheGeneralConversionReadsThem) {
+    const auto general = [](const QByteArray& text) {
+        const QByteArray t = text.trimmed();
+        bool ok = false;
+        const double d = t.toDouble(&ok);
+        if (ok) return d;
+        char* end = nullptr;
+        const double lead = std::strtod(t.constData(), &end);
+        return end == t.constData() ? 0.0 : lead;
+    };
+    QList<QByteArray> texts = {"0", "-0", "007", " 12 ", "-5", "123456789012345", "-999999999999999",
+                               "1234567890123456", "12a", "1.5", "-", "", "1e3", "+7", "- 3", "99999999999999999999"};
+    for (int n = -1000; n <= 1000; ++n)
+        texts << QByteArray::number(n);
+    for (const QByteArray& text : texts) {
+        TextReader r(text + "\r\n", "/x");
+        const double got = r.readNumber();
+        const double want = general(text);
+        EXPECT_EQ(got, want) << text.constData();
+        EXPECT_EQ(std::signbit(got), std::signbit(want)) << text.constData();
+    }
 }
 
 TEST(FieldRead, TrueReadIntoANumberIsMinusOne) {

@@ -2,6 +2,8 @@
 #include "frmNewCustomerTestFixture.h"
 
 #include "accounts/AuxData.h"
+#include "accounts/CustomerStore.h"
+#include "store/StoreError.h"
 
 using namespace ostrel;
 using ostrel::test::AccountScreenFixture;
@@ -395,13 +397,40 @@ TEST_F(AccountRecord, ClearLabelEmptiesItsAuxBox) {
     EXPECT_EQ(frm.lblClear[3].toolTip, "Clears the Aux Data Box");
 }
 
-TEST_F(AccountRecord, AnAccountThatCannotNameAFolderStillShowsTheCustomer) {
+TEST_F(AccountRecord, AnAccountThatCannotNameAFolderLoadsWithoutABoxAndEmptyAuxBoxes) {
     writeCustomers({Person("12/34", "Ann", "Archer")});
     open();
-    EXPECT_BOX(
-        fake.dialogs, "Data File Problem",
-        "The account number \"12/34\" cannot name a file or folder: it holds a separator or is only dots. "
-        "Change the account number.\n\nFile: /AuxFiles/12/34");
+    EXPECT_TRUE(fake.dialogs.boxes().isEmpty());
     EXPECT_EQ(frm.txtCustomer[0].text, "12/34");
     EXPECT_EQ(frm.txtCustomer[8].text, "Ann");
+    for (int k = 0; k < 6; ++k) EXPECT_TRUE(frm.txtAux[k].text.isEmpty()) << k;
+}
+
+TEST_F(AccountRecord, AnAccountThatCannotNameAFolderCanBeChangedAndDeleted) {
+    writeCustomers({Person("1001", "Bob", "Baker"), Person("12/34", "Ann", "Archer")});
+    open();
+    frm.cmdNav_Click(3); // to the last customer
+    ASSERT_EQ(frm.txtCustomer[0].text, "12/34");
+    frm.txtCustomer[10].text = "Arden";
+    frm.cmdNav_Click(0);
+    EXPECT_EQ(recordOnDisk(2).LastName().trimmed(), "Arden");
+    frm.cmdNav_Click(3);
+    ASSERT_EQ(frm.txtCustomer[0].text, "12/34");
+    fake.dialogs.takeAllBoxes();
+    CustomerStore store(t.disk(), session.customer);
+    EXPECT_EQ(store.DeleteCustomer(2, QStringLiteral("12/34"), 2), 1);
+    EXPECT_EQ(countOnDisk(), 1);
+    EXPECT_EQ(recordOnDisk(1).AccountNumber().trimmed(), "1001");
+}
+
+TEST_F(AccountRecord, WritingTheAuxDataOfAnAccountThatCannotNameAFolderIsRefusedNamingTheAccount) {
+    writeCustomers({Person("12/34", "Ann", "Archer")});
+    open();
+    try {
+        AuxData::SaveAuxData(t.disk(), QStringLiteral("12/34"), {QStringLiteral("note")});
+        ADD_FAILURE() << "saved";
+    } catch (const StoreError& e) {
+        EXPECT_TRUE(e.problem().contains("\"12/34\"")) << e.problem().toStdString();
+    }
+    EXPECT_FALSE(t.isDir("/AuxFiles/12"));
 }

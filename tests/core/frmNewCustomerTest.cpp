@@ -76,6 +76,25 @@ TEST_F(AccountScreen, TheFirstCustomerIsSavedAtRecordOneWithoutAnAdd) {
     EXPECT_TRUE(frm.mnuDelete.enabled);
 }
 
+TEST_F(AccountScreen, AnAddAfterTheFirstCustomerOnAnEmptyFileKeepsTheFirstAndNumbersTheNextTwo) {
+    fake.dialogs.expect("Create Customers", "Your Customer File is Empty\nCreate your First Customer Now");
+    open();
+    fake.dialogs.verify();
+    frm.txtCustomer[0].text = "A-1";
+    frm.txtCustomer[8].text = "Jane";
+    frm.txtCustomer[10].text = "Doe";
+    frm.mnuAdd_Click(); // saves Jane, then goes on to the next customer
+    EXPECT_EQ(frm.CurrentRecord, 2);
+    EXPECT_EQ(frm.caption, "Account Information for Customer No 2");
+    frm.txtCustomer[0].text = "B-2";
+    frm.txtCustomer[8].text = "John";
+    frm.txtCustomer[10].text = "Roe";
+    frm.cmdNav_Click(0);
+    ASSERT_EQ(countOnDisk(), 2);
+    EXPECT_EQ(recordOnDisk(1).LastName().trimmed(), "Doe");
+    EXPECT_EQ(recordOnDisk(2).LastName().trimmed(), "Roe");
+}
+
 TEST_F(AccountScreen, TheCaptionFollowsTheRoutineThatOpenedTheScreen) {
     writeSeven();
     open(0);
@@ -121,6 +140,9 @@ TEST_F(AccountScreen, ActivationRebuildsAMissingCycleFileWithOneDefaultRecordPer
     writeSeven();
     QFile::remove(t.full("/CycleInfo.txt"));
     open();
+    EXPECT_BOX(fake.dialogs, "Customer Files",
+               "The file CycleInfo.txt was missing, so it was made anew with the default entries for each of the 7 "
+               "customers.");
     fake.dialogs.verify();
     const QByteArray cycle = t.readBytes("/CycleInfo.txt");
     ASSERT_EQ(cycle.size(), 7 * 69);

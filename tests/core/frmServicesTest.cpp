@@ -132,6 +132,16 @@ TEST_F(ServicesScreen, TheInstructionsTabCarriesItsHeadingsAndNotes) {
     EXPECT_LT(texts.indexOf("CREATING SERVICES"), texts.indexOf("INVENTORIED ITEMS"));
 }
 
+TEST_F(ServicesScreen, TheInstructionsSayWhenLaborRatesAreWrittenAndDoNotPromiseItAtTheMenu) {
+    QStringList texts;
+    for (const auto& [i, label] : frm.lblInstructions)
+        texts << label.caption;
+    EXPECT_FALSE(texts.contains("Your changes are written to the files when you return to the Menu."));
+    const QString all = texts.join(u'\n');
+    EXPECT_TRUE(all.contains("Labor rates are written with Save Labor Rates, and when this screen closes"));
+    EXPECT_TRUE(all.contains("Services and items are written to the files when you return to the Menu"));
+}
+
 TEST_F(ServicesScreen, LoadFillsTheGridsTheLaborBoxesAndTheOtherScreensLists) {
     writeCatalogue();
     frm.Load();

@@ -212,3 +212,25 @@ TEST_F(SetupQuit, TheLegacyShopLoadsIntoTheScreenAndLeavingRewritesItsSettingsUn
         "\"Prairie Comfort Heating & Air\",\"1207 Wabash Ave\",\"Suite B\",\"Springfield\",\"IL\",\"62704\","
         "\"217-555-0142\",\"Fax 217-555-0143  www.prairiecomfort.example\",\"\"\r\n");
 }
+
+TEST_F(SetupQuit, ASystemColourNumberInPrintColorsIsKeptExactlyByAnUnchangedSave) {
+    t.writeBytes("/MyBusinessData.txt", "\"Shop\",\"\",\"\",\"\",\"\",\"\",\"555-1234\",\"\",\"\"\r\n");
+    t.writeBytes("/PrintColors.txt", "-2147483643\r\n-2147483633\r\n\"Arial\"\r\n#TRUE#\r\n3\r\n");
+    start();
+    setup->Show();
+    setup->cmdQuit_Click();
+    EXPECT_TRUE(fake.dialogs.boxes().isEmpty());
+    EXPECT_TRUE(t.readBytes("/PrintColors.txt").startsWith("-2147483643\r\n-2147483633\r\n"))
+        << t.readBytes("/PrintColors.txt").constData();
+}
+
+TEST_F(SetupQuit, APickedColourReplacesASystemColourNumber) {
+    t.writeBytes("/MyBusinessData.txt", "\"Shop\",\"\",\"\",\"\",\"\",\"\",\"555-1234\",\"\",\"\"\r\n");
+    t.writeBytes("/PrintColors.txt", "-2147483643\r\n-2147483633\r\n\"Arial\"\r\n#TRUE#\r\n3\r\n");
+    start();
+    setup->Show();
+    setup->txtBorders.BackColor = 0x00FF00;
+    setup->cmdQuit_Click();
+    EXPECT_TRUE(t.readBytes("/PrintColors.txt").startsWith("65280\r\n-2147483633\r\n"))
+        << t.readBytes("/PrintColors.txt").constData();
+}

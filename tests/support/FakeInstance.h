@@ -8,14 +8,16 @@ namespace ostrel::test {
 class FakeInstance : public Instance {
 public:
     bool otherCopyRunning = false;
+    bool folderNotWritable = false;
 
     bool TryAcquire() override {
         ++attempts;
-        if (otherCopyRunning) return false;
+        if (otherCopyRunning || folderNotWritable) return false;
         held = true;
         return true;
     }
     void Release() override { held = false; }
+    bool FolderNotWritable() const override { return folderNotWritable; }
 
     int attempts = 0;
     bool held = false;

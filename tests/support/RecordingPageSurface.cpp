@@ -35,6 +35,10 @@ bool RecordingPageSurface::printed(const QString& text) const {
     return printedTexts().contains(text);
 }
 
+QRectF RecordingPageSurface::PrintableArea() const {
+    return QRectF(0, 0, sheetWidth(), sheetHeight()).marginsRemoved(hardwareMargins);
+}
+
 QSizeF RecordingPageSurface::measure(const PrintFont& font, const QString& line) {
     return {charWidth(font.size) * line.size(), lineHeight(font.size)};
 }
@@ -110,6 +114,7 @@ PageSurface& RecordingPrintDialogs::ShowPrinterDialog() {
     if (a == Answer::Cancel) throw PrintError(PrintError::kCancelled, QStringLiteral("Cancel was selected"));
     if (a == Answer::NoPrinter) throw PrintError(PrintError::kPrinterError, QStringLiteral("No printer"));
     auto job = std::make_unique<RecordingPageSurface>();
+    job->hardwareMargins = m_margins;
     if (!m_failAt.empty()) {
         job->failAtOperation = m_failAt.front();
         m_failAt.pop_front();

@@ -4,6 +4,7 @@
 #include "platform/PrintDialogs.h"
 
 #include <QMap>
+#include <QMarginsF>
 #include <QVector>
 
 #include <deque>
@@ -41,6 +42,11 @@ public:
     QMap<QString, QSizeF> pictures;
     // Makes the n-th drawing operation (from 1) fail as a printer error.
     int failAtOperation = 0;
+    // A printer's unprintable strips along the edges of the sheet, in twips; none by default, as
+    // on a PDF.
+    QMarginsF hardwareMargins;
+
+    QRectF PrintableArea() const override;
 
     std::optional<QSizeF> PictureSize(const QString& picture) override;
 
@@ -78,6 +84,11 @@ public:
         m_answers.push_back(a);
         return *this;
     }
+    // The next jobs' printers have these unprintable strips.
+    RecordingPrintDialogs& hardwareMargins(const QMarginsF& margins) {
+        m_margins = margins;
+        return *this;
+    }
     // The next job's printer fails at its n-th drawing operation.
     RecordingPrintDialogs& failNextJobAt(int operation) {
         m_failAt.push_back(operation);
@@ -94,6 +105,7 @@ public:
 private:
     std::deque<Answer> m_answers;
     std::deque<int> m_failAt;
+    QMarginsF m_margins;
     std::vector<std::unique_ptr<RecordingPageSurface>> m_jobs;
     int m_shown = 0;
 };

@@ -51,6 +51,13 @@ public:
     ::testing::AssertionResult takeBox(const QString& title, const QString& prompt);
     ::testing::AssertionResult takeBox(const QString& title, const QString& prompt, int style);
 
+    // Every box shown without an expectation and not yet checked, oldest first; they count as checked.
+    QVector<Box> takeAllBoxes() {
+        QVector<Box> out(m_unchecked.begin(), m_unchecked.end());
+        m_unchecked.clear();
+        return out;
+    }
+
     // Fails for each scripted box or dialog answer not used and each box not checked; then clears
     // them so the destructor does not report them again.
     void verify();

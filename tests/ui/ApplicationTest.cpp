@@ -1,3 +1,5 @@
+#include "AppointmentRoad.h"
+#include "ProgramWindows.h"
 #include "Screenshot.h"
 #include "TestDataRoot.h"
 #include "UiEvents.h"
@@ -21,69 +23,8 @@
 using namespace ostrel;
 using namespace ostrel::ui;
 using ostrel::test::saveShot;
+using ostrel::test::ProgramWindows;
 using ostrel::test::TestDataRoot;
-
-namespace {
-
-// Answers each box the program puts up with its default button, as a hurried person would, and
-// keeps what the boxes said.
-class BoxAnswerer {
-public:
-    BoxAnswerer() {
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box) return;
-            said << box->text();
-            if (QAbstractButton* b = box->defaultButton()) b->click();
-            else box->done(0);
-        });
-        m_timer.start(10);
-    }
-    QStringList said;
-
-private:
-    QTimer m_timer;
-};
-
-// The whole program on a data folder, with its real platform, as the executable starts it.
-struct ProgramWindows : ::testing::Test {
-    TestDataRoot t;
-    BoxAnswerer boxes;
-    std::unique_ptr<Application> app;
-
-    void start() {
-        // The executable lives in its data folder under the program's name.
-        t.writeBytes("/OstrelAppointmentScheduler", QByteArray("\x7f" "ELF"));
-        app = std::make_unique<Application>(AppInfo(t.path() + QStringLiteral("/OstrelAppointmentScheduler")));
-        ASSERT_TRUE(app->start());
-        test::settle();
-    }
-    static QWidget* window(const QString& formName) {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (w->objectName() == formName) return w;
-        ADD_FAILURE() << "no window " << formName.toStdString();
-        return nullptr;
-    }
-    static bool shown(const QString& formName) {
-        QWidget* w = window(formName);
-        return w && w->isVisible();
-    }
-    template <typename W> static W* child(const QString& formName, const QString& name) {
-        QWidget* w = window(formName);
-        W* c = w ? w->findChild<W*>(name) : nullptr;
-        EXPECT_NE(c, nullptr) << name.toStdString();
-        return c;
-    }
-    // The frame's close button, as the window manager delivers it.
-    static void closeByFrame(QWidget* w) {
-        QCloseEvent e;
-        QSpontaneKeyEvent::setSpontaneous(&e);
-        QCoreApplication::instance()->notify(w, &e);
-        test::settle();
-    }
-};
-
-} // namespace
 
 TEST_F(ProgramWindows, AFirstRunShowsTheWelcomeFrameAndTheLogoOpensSetup) {
     start();
@@ -156,27 +97,7 @@ TEST_F(ProgramWindows, TheLegacyShopGoesFromContinueToTheMenuAndItsRoutines) {
 
 TEST_F(ProgramWindows, AFirstRunTypedIntoSetupOpensTheMenuAndTheNextStartGoesOnToIt) {
     start();
-    test::click(child<QPushButton>("frmSplash", "cmdContinue"));
-    test::settle();
-    test::click(child<ClickableImage>("frmSplash", "Image1(1)"));
-    test::settle();
-    ASSERT_TRUE(shown("frmSetup"));
-
-    QLineEdit* name = child<QLineEdit>("frmSetup", "txtBusiness(0)");
-    name->setFocus();
-    test::typeText(name, "Prairie Comfort");
-    QLineEdit* telephone = child<QLineEdit>("frmSetup", "txtBusiness(6)");
-    telephone->setFocus();
-    test::typeText(telephone, "217-555-0142");
-    child<QTabWidget>("frmSetup", "tabInfo")->setCurrentIndex(4);
-    test::settle();
-    auto* areas = child<QComboBox>("frmSetup", "cboAssignments");
-    areas->setFocus();
-    test::typeText(areas->lineEdit(), "Crew One");
-    test::click(child<QPushButton>("frmSetup", "cmdSave"));
-    test::settle();
-    test::click(child<QPushButton>("frmSetup", "cmdQuit"));
-    test::settle();
+    ASSERT_NO_FATAL_FAILURE(test::FirstRunThroughSetup(*this, "Prairie Comfort", "217-555-0142", {"Crew One"}));
     EXPECT_TRUE(boxes.said.isEmpty()) << boxes.said.join(u'|').toStdString();
     EXPECT_FALSE(shown("frmSetup"));
     ASSERT_TRUE(shown("frmStartup"));

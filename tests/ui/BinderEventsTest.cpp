@@ -5,7 +5,9 @@
 #include "platform/ControlRegistry.h"
 #include "store/StoreError.h"
 
+#include <QAccessible>
 #include <QAction>
+#include <QElapsedTimer>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
@@ -470,4 +472,109 @@ TEST_F(BinderEvents, ScreenWithEveryWidgetHasNothingUnbound) {
     EXPECT_EQ(QStringLiteral("Ready"), qobject_cast<QLabel*>(binder.widgetFor(frm.lblStatus))->text());
     EXPECT_EQ(QStringLiteral("555-123-4567"),
               qobject_cast<QLineEdit*>(binder.widgetFor(frm.txtCustomer[6]))->text());
+}
+
+namespace {
+
+QAccessibleInterface* accessible(QWidget* w) {
+    QAccessibleInterface* a = QAccessible::queryAccessibleInterface(w);
+    EXPECT_NE(a, nullptr);
+    return a;
+}
+
+} // namespace
+
+TEST_F(BinderEvents, ACheckBoxTickedThroughAccessibilityReachesTheLogicAndStays) {
+    CheckBox ck;
+    ck.caption = "Alarms";
+    auto* box = make<QCheckBox>("ckAlarms");
+    binder.bind(box, ck);
+    int clicks = 0;
+    binder.onClick(ck, [&] {
+        ++clicks;
+        EXPECT_EQ(ck.value, 1); // the logic sees the new state
+    });
+    window.show();
+    test::settle();
+    accessible(box)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    test::settle();
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(ck.value, 1);
+    binder.sync(); // a refresh keeps the owner's tick
+    EXPECT_TRUE(box->isChecked());
+    // The program's own change is not taken for the owner's.
+    ck.value = 0;
+    binder.sync();
+    test::settle();
+    EXPECT_FALSE(box->isChecked());
+    EXPECT_EQ(clicks, 1);
+    // A mouse click still gives one Click.
+    test::click(box);
+    test::settle();
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(ck.value, 1);
+}
+
+TEST_F(BinderEvents, AnOptionChosenThroughAccessibilityReachesTheLogic) {
+    ControlArray<OptionButton> opt;
+    opt[0].caption = "One";
+    opt[1].caption = "Two";
+    opt[0].value = true;
+    binder.bind(make<QRadioButton>("optPick(0)"), opt[0]);
+    binder.bind(make<QRadioButton>("optPick(1)"), opt[1]);
+    QStringList clicks;
+    binder.onClick(opt, [&](int i) { clicks << QString::number(i); });
+    window.show();
+    binder.sync();
+    test::settle();
+    accessible(binder.widgetFor(opt[1]))->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    test::settle();
+    EXPECT_EQ(clicks, QStringList{"1"});
+    EXPECT_TRUE(opt[1].value);
+    EXPECT_FALSE(opt[0].value);
+    opt[0].value = true;
+    opt[1].value = false;
+    binder.sync();
+    test::settle();
+    EXPECT_EQ(clicks, QStringList{"1"}); // the program's choice is no Click
+}
+
+TEST_F(BinderEvents, TextSetThroughAccessibilityReachesTheLogicAndItsKeyFilter) {
+    TextBox txt;
+    auto* edit = make<QLineEdit>("txtPhone");
+    binder.bind(edit, txt);
+    int changes = 0;
+    binder.onChange(txt, [&] { ++changes; });
+    // The key filter turns letters away, as the phone boxes do.
+    binder.onKeyPress(txt, [](int& key) {
+        if (QChar(key).isLetter()) key = 0;
+    });
+    window.show();
+    test::settle();
+    accessible(edit)->setText(QAccessible::Value, QStringLiteral("555-0100"));
+    test::settle();
+    EXPECT_EQ(txt.text, "555-0100");
+    EXPECT_GE(changes, 1);
+    const int before = changes;
+    txt.text = "217";
+    binder.sync();
+    test::settle();
+    EXPECT_EQ(edit->text(), "217");
+    EXPECT_EQ(changes, before); // the program's own text is not the owner's edit
+}
+
+TEST_F(BinderEvents, AButtonPressedThroughAccessibilityClicks) {
+    CommandButton cmd;
+    cmd.caption = "Goto";
+    auto* b = make<QPushButton>("cmdGoto");
+    binder.bind(b, cmd);
+    int clicks = 0;
+    binder.onClick(cmd, [&] { ++clicks; });
+    window.show();
+    test::settle();
+    accessible(b)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QElapsedTimer wait;
+    wait.start();
+    while (clicks == 0 && wait.elapsed() < 2000) test::settle(); // the press animates for a moment
+    EXPECT_EQ(clicks, 1);
 }

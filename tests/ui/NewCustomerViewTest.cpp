@@ -336,4 +336,10 @@ TEST_F(NewCustomerViews, ActivationOnAFullCustomerFileFillsBothListsAndIsTimed) 
     EXPECT_EQ(find<QComboBox>("cboAccounts")->count(), CustomerStore::kMostCustomers);
     EXPECT_EQ(find<QComboBox>("cboCity")->count(), 50);
     EXPECT_EQ(t.readBytes("/CycleInfo.txt").size(), qsizetype(CustomerStore::kMostCustomers) * 69);
+    // The companions were missing; each rebuild is told.
+    for (const char* file : {"ContractInfo.txt", "CycleInfo.txt"})
+        EXPECT_BOX(fake.dialogs, "Customer Files",
+                   QStringLiteral("The file %1 was missing, so it was made anew with the default entries for each "
+                                  "of the 32767 customers.")
+                       .arg(QLatin1String(file)));
 }

@@ -1,16 +1,9 @@
 // The sales report printed to a real PDF and read back: heads, columns, rows and totals stand at the
 // inches the layout gives, the amounts ending under the right end of their heads.
-#include "FakePlatform.h"
-#include "PdfText.h"
-#include "TestDataRoot.h"
+#include "PdfSession.h"
 #include "invoicing/AssociateJournal.h"
-#include "platform/QtPrintDialogs.h"
 #include "printing/frmSales.h"
 #include "setup/PointOfServiceNames.h"
-#include "shell/Session.h"
-#include "shell/frmStartup.h"
-
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -20,23 +13,13 @@ using namespace ostrel::test;
 
 namespace {
 
-struct SalesReportPdf : ::testing::Test {
-    TestDataRoot t;
-    FakePlatform fake{t.path()};
-    QTemporaryDir out;
-    QString pdf = out.filePath(QStringLiteral("sales.pdf"));
-    QtPrintDialogs printDialogs{QtPrintDialogs::PdfFileChooser(pdf)};
-    Platform platform{fake.dialogs, fake.clock, fake.instance, fake.browser, fake.app, fake.serial, printDialogs};
-    Session session{t.path(), platform};
+struct SalesReportPdf : ::testing::Test, PdfSession {
+    SalesReportPdf() : PdfSession(QStringLiteral("sales.pdf")) {}
     frmSales& frm = session.AddScreen(ScreenId::frmSales, std::make_unique<frmSales>(session));
 
     void SetUp() override {
         if (!havePoppler()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
-        session.RegisterScreen(ScreenId::frmStartup, session.startup());
-        fake.clock.set(QDate(2026, 11, 22), QTime(9, 0));
         session.settings.program.optBusinessType0 = false;
-        session.settings.business.txtBusiness = {"Prairie Comfort Heating", "1207 Wabash Ave", "", "Springfield",
-                                                 "IL", "62704", "217-555-0142", "", ""};
         PointOfServiceNames names;
         SaveAssociates(t.disk(), {"Crew One", "Crew Two"}, names);
         session.LoadServiceAreas();

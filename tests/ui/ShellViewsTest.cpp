@@ -17,6 +17,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QAccessible>
 #include <QRadioButton>
 
 #include <gtest/gtest.h>
@@ -131,6 +132,53 @@ TEST_F(ShellViews, DoubleClickOnARoutineOpensItsScreen) {
     EXPECT_EQ(session.SelectedRoutine, 12);
     EXPECT_TRUE(reprint.isVisible());
     EXPECT_FALSE(menu.isVisible());
+}
+
+TEST_F(ShellViews, ARoutineChosenInEitherBoxClearsThePreselectedOneAndGotoOpensIt) {
+    StandInScreen accounts("frmNewCustomer");
+    session.RegisterScreen(ScreenId::frmNewCustomer, accounts);
+    // With services and items on file the menu preselects "Create an Appointment ".
+    t.writeBytes("/Services.txt", QByteArray(72, ' '));
+    t.writeBytes("/OIInventoriedItems.txt", QByteArray(104, ' '));
+    frmStartup& frm = session.startup();
+    frm.Show();
+    Binder::syncAll(); // what follows any event: the widgets show the models
+    test::settle();
+    auto* appointment = find<QRadioButton>(menu, "optMainMenuSub(5)");
+    auto* records = find<QRadioButton>(menu, "optMainMenuSub(7)"); // in the other box
+    ASSERT_TRUE(frm.optMainMenuSub[5].value) << "model";
+    ASSERT_TRUE(appointment->isChecked());
+    test::click(records);
+    test::settle();
+    EXPECT_TRUE(records->isChecked());
+    EXPECT_FALSE(appointment->isChecked());
+    for (int i = 0; i < frmStartup::kRoutines; ++i) EXPECT_EQ(frm.optMainMenuSub[i].value, i == 7) << i;
+    find<QPushButton>(menu, "cmdGoto")->click();
+    test::settle();
+    EXPECT_EQ(session.SelectedRoutine, 7);
+    EXPECT_TRUE(accounts.isVisible());
+}
+
+TEST_F(ShellViews, ARoutineChosenByKeyboardOrAccessibilityIsTheOneGotoOpens) {
+    StandInScreen catalogue("frmServices");
+    session.RegisterScreen(ScreenId::frmServices, catalogue);
+    t.writeBytes("/Services.txt", QByteArray(72, ' '));
+    t.writeBytes("/OIInventoriedItems.txt", QByteArray(104, ' '));
+    frmStartup& frm = session.startup();
+    frm.Show();
+    Binder::syncAll(); // what follows any event: the widgets show the models
+    test::settle();
+    auto* services = find<QRadioButton>(menu, "optMainMenuSub(6)");
+    QAccessibleInterface* access = QAccessible::queryAccessibleInterface(services);
+    ASSERT_TRUE(access && access->actionInterface());
+    access->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    test::settle();
+    EXPECT_FALSE(find<QRadioButton>(menu, "optMainMenuSub(5)")->isChecked());
+    EXPECT_FALSE(frm.optMainMenuSub[5].value);
+    EXPECT_TRUE(frm.optMainMenuSub[6].value);
+    frm.cmdGoto_Click();
+    EXPECT_EQ(session.SelectedRoutine, 6);
+    EXPECT_TRUE(catalogue.isVisible());
 }
 
 TEST_F(ShellViews, ClosingAWindowByItsFrameEndsTheProgram) {

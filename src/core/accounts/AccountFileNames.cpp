@@ -24,6 +24,15 @@ QString joined(const QString& folder, const QString& account, const QString& suf
 
 } // namespace
 
+bool AccountNamesAFile(const QString& account) {
+    try {
+        AuxFolderName(account);
+        return true;
+    } catch (const StoreError&) {
+        return false;
+    }
+}
+
 QString ActiveAccountFileName(const QString& account) {
     return joined(QStringLiteral("/OIActiveAccounts"), vbTrim(account), QStringLiteral(".txt"));
 }

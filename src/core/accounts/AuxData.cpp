@@ -37,6 +37,11 @@ void SaveAuxHeadings(DiskRoutines& disk, const QStringList& headings) {
 
 QStringList LoadAuxData(DiskRoutines& disk, const QString& account) {
     QStringList boxes;
+    // An account that cannot name a folder has no aux files: its boxes are empty.
+    if (!AccountNamesAFile(account)) {
+        for (int k = 0; k < kBoxes; ++k) boxes << QString();
+        return boxes;
+    }
     for (int k = 0; k < kBoxes; ++k) {
         QString box;
         const QString name = AuxDataFileName(account, k);
@@ -52,8 +57,9 @@ QStringList LoadAuxData(DiskRoutines& disk, const QString& account) {
 }
 
 void SaveAuxData(DiskRoutines& disk, const QString& account, const QStringList& boxes) {
-    for (int k = 0; k < kBoxes; ++k)
-        disk.DeleteDataFile(AuxDataFileName(account, k));
+    // Refuses an account that cannot name a folder before anything is touched. Each file is then
+    // replaced in one step rather than deleted first.
+    AuxDataFileName(account, 0);
     // A customer added in this run has no folders yet.
     disk.MakeDirectoryIfAbsent(QStringLiteral("/AuxFiles"));
     disk.MakeDirectoryIfAbsent(AuxFolderName(account));

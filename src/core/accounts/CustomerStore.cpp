@@ -100,12 +100,12 @@ void CustomerStore::rebuildCompanion(const QString& name, int recordLength, cons
         return;
     }
     requireStorable(name, count);
-    m_disk.DeleteFileAndBackup(name);
     QByteArray bytes;
     bytes.reserve(static_cast<qsizetype>(recordLength) * std::max(count, 0));
     for (int r = 1; r <= count; ++r)
         bytes += defaults.bytes();
-    writeWhole(name, recordLength, bytes);
+    m_disk.CloseAllFiles();
+    m_disk.ReplaceRecordFile(name, bytes);
 }
 
 void CustomerStore::RebuildContractFile(int count, const CustomerMessage& message) {
@@ -120,8 +120,23 @@ void CustomerStore::RebuildCycleFile(int count, const CustomerMessage& message) 
 
 void CustomerStore::RebuildMissingCompanions(int count, const CustomerMessage& message) {
     if (!m_disk.FileExists(kCustomerFile)) return;
-    if (!m_disk.FileExists(kContractFile)) RebuildContractFile(count, message);
-    if (!m_disk.FileExists(kCycleFile)) RebuildCycleFile(count, message);
+    // The owner is told: a rebuilt file holds defaults where the lost one held what was entered.
+    const auto told = [&](const QString& file) {
+        if (message)
+            message(QStringLiteral("The file %1 was missing, so it was made anew with the default entries for "
+                                   "each of the %2 customers.")
+                        .arg(file)
+                        .arg(count),
+                    QStringLiteral("Customer Files"));
+    };
+    if (!m_disk.FileExists(kContractFile)) {
+        RebuildContractFile(count, message);
+        if (m_disk.FileExists(kContractFile)) told(QStringLiteral("ContractInfo.txt"));
+    }
+    if (!m_disk.FileExists(kCycleFile)) {
+        RebuildCycleFile(count, message);
+        if (m_disk.FileExists(kCycleFile)) told(QStringLiteral("CycleInfo.txt"));
+    }
 }
 
 void CustomerStore::SaveCustomerAt(int r, QDate today) {

@@ -18,8 +18,9 @@ void CustomerStore::compact(const QString& scratch, const QString& target, int r
         if (i != skip) copies += source.get(i).bytes();
     m_disk.CloseAllFiles();
     writeWhole(scratch, recordLength, copies);
-    m_disk.DeleteFileAndBackup(target);
-    m_disk.RenameDataFile(scratch, target);
+    // The compacted copy takes the old file's place in one step: a crash or a failed step leaves
+    // the old records or the new ones, never no file.
+    m_disk.ReplaceWithFile(scratch, target);
 }
 
 int CustomerStore::DeleteCustomer(int r, const QString& accountBoxText, int customerCount) {
@@ -27,9 +28,8 @@ int CustomerStore::DeleteCustomer(int r, const QString& accountBoxText, int cust
     const QString temp = QStringLiteral("\\Temp.txt");
 
     m_disk.DeleteDataFile(scratch);
-    // The open-account file goes with the customer; an account that cannot name a file stops the
-    // deletion here, before any customer file is touched.
-    m_disk.DeleteFileAndBackup(ActiveAccountFileName(accountBoxText));
+    // The open-account file goes with the customer; an account that cannot name a file has none.
+    if (AccountNamesAFile(accountBoxText)) m_disk.DeleteFileAndBackup(ActiveAccountFileName(accountBoxText));
 
     compact(scratch, QStringLiteral("\\CustomerData.txt"), CustomerRecord::kLength, r, false);
 

@@ -3,6 +3,7 @@
 #include "AuxData.h"
 #include "CustomerNames.h"
 #include "StatesList.h"
+#include "shell/RecordFormats.h"
 #include "shell/Session.h"
 #include "util/VbText.h"
 
@@ -255,6 +256,9 @@ void frmNewCustomer::Form_Activate() {
     Image1[1].enabled = m_session.modem.detected && static_cast<bool>(m_session.dial);
 
     ClearBoxes();
+    // Damaged customer files are reported and kept from being saved over; what can be read is shown.
+    for (const QString& name : {CustomerStore::kCustomerFile, CustomerStore::kContractFile, CustomerStore::kCycleFile})
+        CheckRecordFileOnRead(m_session.disk, name);
     if (m_session.disk.FileExists(CustomerStore::kCustomerFile)) {
         SetNavigationEnabled(true);
         CustomerCount = m_store.CustomerCount();

@@ -43,6 +43,9 @@ void frmNewCustomer::SaveAccount() {
     }
     FillBufferFromBoxes();
     m_store.SaveCustomerAt(CurrentRecord, m_session.today());
+    // The count follows the file once a record is written there, so an Add after a first customer
+    // on an empty file numbers the next one 2 instead of writing over the first.
+    CustomerCount = std::max(CustomerCount, CurrentRecord);
     AddCityIfNew(vbTrim(m_buffers.customer.City()));
     for (MenuItem* m : {&mnuDelete, &mnuAux, &mnuAdd})
         m->enabled = true;

@@ -1,5 +1,6 @@
 #include "CatalogueFile.h"
 
+#include "shell/RecordFormats.h"
 #include "store/StoreError.h"
 
 namespace ostrel {
@@ -34,6 +35,8 @@ void CheckCatalogueCount(const QString& name, qsizetype count) {
 }
 
 QVector<Record> ReadCatalogueRecords(DiskRoutines& disk, const QString& name, int recordLength) {
+    // A damaged file is reported and kept from being saved over; what can be read is still shown.
+    CheckRecordFileOnRead(disk, name);
     ClosedOnExit guard(disk);
     RandomFile& file = disk.OpenRandom(name, recordLength);
     const int count = file.recordCount();

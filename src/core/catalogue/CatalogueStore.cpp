@@ -1,10 +1,11 @@
 #include "CatalogueStore.h"
 
 #include "CatalogueFile.h"
-#include "CurrencyText.h"
+#include "store/CurrencyText.h"
 #include "CustomItemRecord.h"
 #include "InventoriedItemRecord.h"
 #include "ServiceRecord.h"
+#include "shell/RecordFormats.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
 
@@ -13,16 +14,6 @@
 namespace ostrel {
 
 namespace {
-
-// Adds an item to a list that may be sorted and gives the index it took.
-int addAndLocate(ListControl& list, const QString& item) {
-    const QStringList before = list.items;
-    list.AddItem(item);
-    int i = 0;
-    while (i < before.size() && before[i] == list.items[i])
-        ++i;
-    return i;
-}
 
 void addRow(Grid& g, std::initializer_list<QString> cells) {
     const int row = g.Rows();
@@ -209,7 +200,7 @@ bool CatalogueStore::LoadCustomItems() {
         g.SetTextMatrix(row, 2, currencytext::format(item.DiscountPrice));
         g.SetTextMatrix(row, 3, QString::number(item.DiscountQuantity));
         // The description list is sorted; its item data leads back to the price list, kept in file order.
-        const int at = addAndLocate(invoice.cboDescription[2], description);
+        const int at = invoice.cboDescription[2].AddItem(description);
         invoice.cboDescription[2].SetItemData(at, row - 1);
         invoice.cboPrice[2].AddItem(price);
         create.cboItems.AddItem(description);
@@ -222,6 +213,9 @@ bool CatalogueStore::LoadCustomItems() {
 }
 
 void CatalogueStore::LoadCatalogue() {
+    // A folder standing where a file belongs is named too, though the loads pass it over as absent.
+    for (const QString* name : {&ServiceRecord::kFileName, &InventoriedItemRecord::kFileName, &CustomItemRecord::kFileName})
+        if (m_disk.DirectoryExists(*name)) CheckRecordFileOnRead(m_disk, *name);
     LoadServices();
     LoadInventoriedItems();
     LoadCustomItems();
@@ -297,9 +291,16 @@ void CatalogueStore::SaveCatalogue() {
     const QVector<Record> services = serviceRecordsFromGrid();
     const QVector<Record> items = itemRecordsFromGrid();
     const QVector<Record> custom = customRecordsFromGrid();
-    WriteCatalogueRecords(m_disk, ServiceRecord::kFileName, ServiceRecord::kLength, services);
-    WriteCatalogueRecords(m_disk, InventoriedItemRecord::kFileName, InventoriedItemRecord::kLength, items);
-    WriteCatalogueRecords(m_disk, CustomItemRecord::kFileName, CustomItemRecord::kLength, custom);
+    // A damaged file the owner chose to keep is left alone; the other two are still saved.
+    const auto write = [&](const QString& name, int length, const QVector<Record>& records) {
+        try {
+            WriteCatalogueRecords(m_disk, name, length, records);
+        } catch (const DamagedFileKept&) {
+        }
+    };
+    write(ServiceRecord::kFileName, ServiceRecord::kLength, services);
+    write(InventoriedItemRecord::kFileName, InventoriedItemRecord::kLength, items);
+    write(CustomItemRecord::kFileName, CustomItemRecord::kLength, custom);
     LoadCatalogue();
 }
 

@@ -1,6 +1,6 @@
 #include "LaborRates.h"
 
-#include "CurrencyText.h"
+#include "store/CurrencyText.h"
 
 #include <array>
 

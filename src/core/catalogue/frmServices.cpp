@@ -24,7 +24,9 @@ const char* const kInstructions[] = {
     "CREATING LABOR",
     "Up to three labor headings, each with its hourly rate.",
     "Can be Added when Printing an Invoice",
-    "Your changes are written to the files when you return to the Menu.",
+    "Services and items are written to the files when you return to the Menu, and when this screen closes.",
+    ("Labor rates are written with Save Labor Rates, and when this screen closes (Files | Exit or the window's "
+     "close button)."),
 };
 
 void setHeadings(Grid& g, std::initializer_list<const char*> headings) {

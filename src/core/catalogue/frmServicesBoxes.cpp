@@ -1,5 +1,5 @@
 // frmServices: the money and quantity boxes, and the labor rates tab.
-#include "CurrencyText.h"
+#include "store/CurrencyText.h"
 #include "frmServices.h"
 #include "shell/KeyFilters.h"
 #include "shell/Session.h"

@@ -1,6 +1,6 @@
 // frmServices: adding, changing, saving and deleting the rows of the three grids.
 #include "CatalogueFile.h"
-#include "CurrencyText.h"
+#include "store/CurrencyText.h"
 #include "CustomItemRecord.h"
 #include "InventoriedItemRecord.h"
 #include "ServiceRecord.h"

@@ -3,7 +3,7 @@
 #include "RtfText.h"
 #include "accounts/frmNewCustomer.h"
 #include "catalogue/CatalogueFile.h"
-#include "catalogue/CurrencyText.h"
+#include "store/CurrencyText.h"
 #include "catalogue/ServiceRecord.h"
 #include "shell/Session.h"
 #include "util/VbText.h"

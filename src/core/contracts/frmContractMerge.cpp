@@ -5,13 +5,14 @@
 #include "store/Cp1252.h"
 #include "store/TextStatements.h"
 #include "util/VbText.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
 namespace {
 
 QString shortDate(const QDate& d) {
-    return d.toString(QStringLiteral("M/d/yyyy"));
+    return ShortDateText(d);
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 
 namespace ostrel {
 
-void ListControl::AddItem(const QString& item, int index) {
+int ListControl::AddItem(const QString& item, int index) {
     if (index < 0 || index > items.size()) {
         if (sorted) {
             index = 0;
@@ -16,6 +16,7 @@ void ListControl::AddItem(const QString& item, int index) {
     items.insert(index, item);
     itemData.insert(index, 0);
     if (listIndex >= index) ++listIndex;
+    return index;
 }
 
 void ListControl::RemoveItem(int index) {

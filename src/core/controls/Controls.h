@@ -76,7 +76,8 @@ struct ListControl : Control {
     bool sorted = false;
 
     int ListCount() const { return static_cast<int>(items.size()); }
-    void AddItem(const QString& item, int index = -1);
+    // Gives the index the item took (in a sorted list, after every entry that compares equal).
+    int AddItem(const QString& item, int index = -1);
     void RemoveItem(int index);
     void Clear();
     QString List(int index) const { return items.value(index); }

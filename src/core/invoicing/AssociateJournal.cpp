@@ -47,8 +47,8 @@ AssociateJournalRecord AssociateJournalRecord::fromRecord(const Record& r) {
 
 void AddJournalRecord(DiskRoutines& disk, const AssociateJournalRecord& record) {
     const int next = disk.FileRecordCount(AssociateJournalRecord::kFileName, AssociateJournalRecord::kLength) + 1;
-    disk.OpenRandom(AssociateJournalRecord::kFileName, AssociateJournalRecord::kLength).put(next, record.toRecord());
-    disk.CloseAllFiles();
+    // Put in one step, so that a crash leaves the journal as it was or with the whole record.
+    disk.PutRecords(AssociateJournalRecord::kFileName, AssociateJournalRecord::kLength, next, record.toRecord().bytes());
 }
 
 QVector<AssociateJournalRecord> AssociateJournalFromBytes(const QByteArray& bytes) {

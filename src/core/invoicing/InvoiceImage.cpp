@@ -4,6 +4,7 @@
 #include "store/Money.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -25,7 +26,7 @@ QString InvoiceImage::fileName(const QString& invoiceNo) {
 
 QDate InvoiceImage::parseDate(const QString& dateText) {
     const QString t = dateText.trimmed();
-    QDate d = QDate::fromString(t, u"M/d/yyyy");
+    QDate d = ParseShortDate(t);
     if (!d.isValid()) d = QDate::fromString(t, u"yyyy-M-d");
     return d;
 }

@@ -13,6 +13,7 @@ namespace ostrel {
 
 class Session;
 struct InvoiceImage;
+struct InvoicePageContents;
 
 // The look-back at completed invoices: one row per image in /CompletedInvoices, the detail of one,
 // its reprint, the invoices report and the deletion of old images. Nothing is changed on disk but
@@ -75,6 +76,8 @@ public:
     static QString SortKey(QDate date);
     // The text a money field of the image shows: an amount in the money form, anything else as read.
     static QString MoneyText(const QString& field);
+    // The page a reprint draws: the open detail view as it stands, with its ship-to block.
+    InvoicePageContents ShownInvoicePage() const;
 
 private:
     // False when there was nothing to list (the screen has closed).

@@ -5,6 +5,7 @@
 #include "printing/PrintFailure.h"
 #include "shell/Session.h"
 #include "util/VbText.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -21,7 +22,7 @@ void frmReprint::cmdReport_Click() {
 
 void frmReprint::cmdKill_Click() {
     const QDate before = DTPicker1.value;
-    const QString prompt = QStringLiteral("This will Delete All Invoices before ") + before.toString(u"M/d/yyyy");
+    const QString prompt = QStringLiteral("This will Delete All Invoices before ") + ShortDateText(before);
     if (m_session.platform.dialogs.MsgBox(prompt, vbYesNo, QStringLiteral("Delete Invoice Records")) == vbNo) return;
     m_session.Guarded([&] {
         DiskRoutines& disk = m_session.disk;

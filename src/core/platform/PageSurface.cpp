@@ -24,10 +24,10 @@ void PageSurface::SetScaleMode(int mode) {
 }
 
 double PageSurface::ScaleWidth() const {
-    return m_scaleWidth.value_or(sheetWidth());
+    return m_scaleWidth.value_or(PrintableArea().width());
 }
 double PageSurface::ScaleHeight() const {
-    return m_scaleHeight.value_or(sheetHeight());
+    return m_scaleHeight.value_or(PrintableArea().height());
 }
 
 void PageSurface::SetScaleWidth(double width) {
@@ -70,7 +70,7 @@ void PageSurface::printLines(const QString& text, bool stayOnLine) {
     const double startX = CurrentX;
     for (qsizetype i = 0; i < lines.size(); ++i) {
         const QString& line = lines[i];
-        if (!line.isEmpty()) drawText({CurrentX * xFactor(), CurrentY * yFactor(), line, f, ForeColor});
+        if (!line.isEmpty()) drawText({sheetX(CurrentX), sheetY(CurrentY), line, f, ForeColor});
         const bool last = i == lines.size() - 1;
         if (last && stayOnLine) {
             CurrentX += measure(f, line).width() / xFactor();
@@ -91,7 +91,7 @@ void PageSurface::PrintContinue(const QString& text) {
 
 void PageSurface::Line(double x1, double y1, double x2, double y2, bool box) {
     ensureDocument();
-    drawLine(x1 * xFactor(), y1 * yFactor(), x2 * xFactor(), y2 * yFactor(), box, ForeColor,
+    drawLine(sheetX(x1), sheetY(y1), sheetX(x2), sheetY(y2), box, ForeColor,
              std::max(1, DrawWidth) * kTwipsPerDot);
     CurrentX = x2;
     CurrentY = y2;
@@ -99,7 +99,7 @@ void PageSurface::Line(double x1, double y1, double x2, double y2, bool box) {
 
 void PageSurface::PaintPicture(const QString& picture, double x, double y, double width, double height) {
     ensureDocument();
-    drawPicture(picture, x * xFactor(), y * yFactor(), width * xFactor(), height * yFactor());
+    drawPicture(picture, sheetX(x), sheetY(y), width * xFactor(), height * yFactor());
 }
 
 void PageSurface::NewPage() {

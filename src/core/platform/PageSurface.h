@@ -2,6 +2,7 @@
 
 #include "controls/Controls.h"
 
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
@@ -37,13 +38,15 @@ struct PrintFont {
     double size = 10;
     bool bold = false;
     bool underline = false;
+    bool italic = false;
     bool operator==(const PrintFont&) const = default;
 };
 
-// The printer object: a page in twips (1440 to the inch) from the sheet's top left, a current
-// position, font and colour, and the drawing operations the documents use. This class keeps the
-// state and the position rules; a device below it measures and draws. The device sees plain twips
-// of the sheet: the horizontal scale that a set ScaleWidth implies is applied here.
+// The printer object: a page in twips (1440 to the inch) from the top left of the printable area,
+// a current position, font and colour, and the drawing operations the documents use. This class
+// keeps the state and the position rules; a device below it measures and draws. The device sees
+// plain twips of the sheet: the printable area's offset and the scale that a set ScaleWidth
+// implies are applied here.
 class PageSurface {
 public:
     static constexpr int kMonochrome = 1;
@@ -66,6 +69,7 @@ public:
     double FontSize = 10;
     bool FontBold = false;
     bool FontUnderline = false;
+    bool FontItalic = false;
     Colour ForeColor = 0; // 24 bits, red in the low byte
     double CurrentX = 0;
     double CurrentY = 0;
@@ -74,7 +78,7 @@ public:
     // Setting twips drops a scale that ScaleWidth or ScaleHeight set.
     int ScaleMode() const { return m_scaleMode; }
     void SetScaleMode(int mode);
-    // The page in the current scale: the sheet's size in twips unless a document set its own.
+    // The page in the current scale: the printable area's size in twips unless a document set its own.
     double ScaleWidth() const;
     double ScaleHeight() const;
     void SetScaleWidth(double width);
@@ -82,7 +86,7 @@ public:
     // The number of the page being drawn, from 1.
     int Page() const { return m_page; }
 
-    PrintFont Font() const { return {FontName, FontSize, FontBold, FontUnderline}; }
+    PrintFont Font() const { return {FontName, FontSize, FontBold, FontUnderline, FontItalic}; }
     // The size of a text in the current font; a text of several lines is as wide as its widest.
     double TextWidth(const QString& text);
     double TextHeight(const QString& text);
@@ -101,6 +105,11 @@ public:
     // Ends the job and sends it. With nothing drawn since the last end there is no job to send.
     void EndDoc();
     bool documentOpen() const { return m_documentOpen; }
+
+    // The part of the sheet the device prints on, in twips from the sheet's corner, for the current
+    // orientation. A printer's hardware margins make it smaller than the sheet; a device that can
+    // mark the whole sheet (a PDF) answers the sheet itself, so its positions are the sheet's.
+    virtual QRectF PrintableArea() const { return {0, 0, sheetWidth(), sheetHeight()}; }
 
 protected:
     // What the device is asked to do, always in twips of the sheet.
@@ -125,8 +134,11 @@ protected:
     double sheetHeight() const { return Orientation == kLandscape ? kLetterShortSide : kLetterLongSide; }
 
 private:
-    double xFactor() const { return m_scaleWidth ? sheetWidth() / *m_scaleWidth : 1.0; }
-    double yFactor() const { return m_scaleHeight ? sheetHeight() / *m_scaleHeight : 1.0; }
+    double xFactor() const { return m_scaleWidth ? PrintableArea().width() / *m_scaleWidth : 1.0; }
+    double yFactor() const { return m_scaleHeight ? PrintableArea().height() / *m_scaleHeight : 1.0; }
+    // A position of the page in twips of the sheet.
+    double sheetX(double x) const { return PrintableArea().left() + x * xFactor(); }
+    double sheetY(double y) const { return PrintableArea().top() + y * yFactor(); }
     void ensureDocument();
     void printLines(const QString& text, bool stayOnLine);
 

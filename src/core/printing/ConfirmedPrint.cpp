@@ -30,12 +30,12 @@ PrintResult PrintAndConfirm(PrinterRoutines& printer, const ConfirmedPrint& docu
     Dialogs& dialogs = printer.dialogs();
     for (;;) {
         if (const int error = printOnce(printer, document))
-            return ReportPrintFailure(dialogs, error, document.tellsCancelApart);
-        if (dialogs.MsgBox(document.question, vbYesNo + vbQuestion, kPrintConfirmationTitle) != vbNo) {
+            return ReportPrintFailure(dialogs, error, document.tellsCancelApart, document.cancelledMessage);
+        if (dialogs.MsgBox(document.question, vbYesNo + vbQuestion, document.questionTitle) != vbNo) {
             if (document.afterPrint) document.afterPrint();
             return PrintResult::Printed;
         }
-        if (dialogs.MsgBox(document.retry, vbYesNo + vbQuestion, kPrintRetryTitle) != vbYes)
+        if (dialogs.MsgBox(document.retry, vbYesNo + vbQuestion, document.retryTitle) != vbYes)
             return PrintResult::NotPrinted;
     }
 }

@@ -23,6 +23,11 @@ struct ConfirmedPrint {
     // The invoice, the reports and the work schedule tell a cancelled dialog apart; the work order,
     // the pick list and the reprint report Cancel as a print error.
     bool tellsCancelApart = true;
+    // Most documents ask under the common titles and report Cancel in the common words; the pick
+    // list has its own.
+    QString questionTitle = kPrintConfirmationTitle;
+    QString retryTitle = kPrintRetryTitle;
+    QString cancelledMessage = kPrintCancelledMessage;
     // Draws the document. An EndDoc at its end is allowed; the job is ended after it in any case.
     std::function<void()> draw;
     // Runs once the user has not said No to the question; nothing on disk changes before it.

@@ -5,6 +5,7 @@
 #include "controls/Controls.h"
 #include "platform/Clock.h"
 #include "setup/SetupSettings.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -16,7 +17,7 @@ const QString kCommentLine = QStringLiteral("_________________________________")
 
 // Dates print in the short form of the United States.
 QString shortDate(const QDate& date) {
-    return date.toString(QStringLiteral("M/d/yyyy"));
+    return ShortDateText(date);
 }
 
 void printHeading(PrinterRoutines& printer, const QString& title) {

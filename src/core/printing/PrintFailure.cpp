@@ -5,10 +5,11 @@
 
 namespace ostrel {
 
-PrintResult ReportPrintFailure(Dialogs& dialogs, int errorNumber, bool tellsCancelApart) {
+PrintResult ReportPrintFailure(Dialogs& dialogs, int errorNumber, bool tellsCancelApart,
+                               const QString& cancelledMessage) {
     const bool cancelled = errorNumber == PrintError::kCancelled;
     if (cancelled && tellsCancelApart)
-        dialogs.MsgBox(kPrintCancelledMessage, vbOKOnly);
+        dialogs.MsgBox(cancelledMessage, vbOKOnly);
     else
         dialogs.MsgBox(kPrintErrorMessage, vbOKOnly, kPrintErrorTitle);
     return cancelled ? PrintResult::Cancelled : PrintResult::Failed;

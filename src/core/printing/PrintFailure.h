@@ -20,6 +20,8 @@ inline const QString kPrintErrorTitle = QStringLiteral("Print Error");
 
 // The error path of the print routines. Routines that tell Cancel apart say that nothing will be
 // printed; the others, and every other failure, report a print error.
-PrintResult ReportPrintFailure(Dialogs& dialogs, int errorNumber, bool tellsCancelApart);
+// A document may name itself in the Cancel message ("The Picklist will not be Printed").
+PrintResult ReportPrintFailure(Dialogs& dialogs, int errorNumber, bool tellsCancelApart,
+                               const QString& cancelledMessage = kPrintCancelledMessage);
 
 } // namespace ostrel

@@ -3,6 +3,7 @@
 #include "invoicing/AssociateJournal.h"
 #include "shell/Session.h"
 #include "util/VbText.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -137,7 +138,7 @@ void frmSales::LoadGrid() {
         if (r.JournalDate < m_start || r.JournalDate > m_end) continue;
         if (filtered && vbTrim(r.Associate) != associate) continue;
         fgSales.SetTextMatrix(row, kTransaction, vbTrim(r.Transaction));
-        fgSales.SetTextMatrix(row, kDate, r.JournalDate.toString(u"M/d/yyyy"));
+        fgSales.SetTextMatrix(row, kDate, ShortDateText(r.JournalDate));
         fgSales.SetTextMatrix(row, kAccount, vbTrim(r.Account));
         fgSales.SetTextMatrix(row, kSubTotal, FormatMoney(r.SubTotal));
         fgSales.SetTextMatrix(row, kDiscount, FormatMoney(r.Discount));

@@ -3,6 +3,7 @@
 #include "invoicing/AssociateJournal.h"
 #include "shell/Session.h"
 #include "store/Record.h"
+#include "store/LocaleText.h"
 
 #include <cmath>
 
@@ -40,7 +41,7 @@ void frmSales::DeleteRecords() {
 
     Dialogs& dialogs = m_session.platform.dialogs;
     const QString range = QStringLiteral("This will delete all Sales Records \nfrom ") +
-                          m_start.toString(u"M/d/yyyy") + QStringLiteral(" to ") + m_end.toString(u"M/d/yyyy");
+                          ShortDateText(m_start) + QStringLiteral(" to ") + ShortDateText(m_end);
     if (dialogs.MsgBox(range, vbYesNo, QStringLiteral("Delete Sales Records")) != vbYes) return;
     if (dialogs.MsgBox(QStringLiteral("Are you Sure?"), vbYesNo, QStringLiteral("Delete Verification")) != vbYes)
         return;

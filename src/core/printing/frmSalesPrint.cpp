@@ -3,6 +3,7 @@
 #include "LetterheadRoutines.h"
 #include "PrintFailure.h"
 #include "shell/Session.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -22,7 +23,7 @@ struct MoneyHead {
 constexpr MoneyHead kMoneyHeads[] = {{"SubTotal", 4.1}, {"Discount", 5.2}, {"Tax", 6.4}, {"Total", 7.35}};
 
 QString shortDate(QDate d) {
-    return d.toString(u"M/d/yyyy");
+    return ShortDateText(d);
 }
 
 } // namespace

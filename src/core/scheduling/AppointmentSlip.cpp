@@ -2,9 +2,9 @@
 
 #include "store/DiskRoutines.h"
 #include "store/StoreError.h"
+#include "util/VbText.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace ostrel {
 
@@ -12,6 +12,7 @@ namespace {
 
 const QString kFileToPrint = QStringLiteral("/FileToPrint.txt");
 const QString kSlipCounter = QStringLiteral("/SlipCounter.txt");
+const QString kBackupSlipCounter = QStringLiteral("/Backup/SlipCounter.txt");
 
 // Reads one of a file's statements; a file that ends first is reported as cut short, by name.
 template <typename Read> auto readStatement(TextReader& in, const QString& what, Read read) {
@@ -20,9 +21,8 @@ template <typename Read> auto readStatement(TextReader& in, const QString& what,
     return read();
 }
 
-qint16 toInt16(double v) {
-    return static_cast<qint16>(std::nearbyint(v));
-}
+// An Integer statement; one no Integer holds makes the file a bad file.
+qint16 readInt16(TextReader& in) { return static_cast<qint16>(in.readInteger(-32768, 32767)); }
 
 // The comment box's line breaks as the print statement puts them in a file.
 QString withFileLineEnds(const QString& text) {
@@ -37,7 +37,13 @@ QString withFileLineEnds(const QString& text) {
 
 enum class CommentRead { Field, WholeLine };
 
-TextWriter slipWriter(const AppointmentSlip& slip) {
+TextWriter slipCounterWriter(const SlipCounter& counter) {
+    TextWriter out;
+    out.write({counter.day, counter.number});
+    return out;
+}
+
+TextWriter slipWriter(const AppointmentSlip& slip, bool commentAsItStands = false) {
     TextWriter out;
     out.writeString(slip.Status);
     out.write({slip.SlipDate});
@@ -47,10 +53,10 @@ TextWriter slipWriter(const AppointmentSlip& slip) {
     out.writeNumber(slip.SlipStartRow);
     for (const QString& field : slip.Customer)
         out.writeString(field);
-    out.print(slip.SlipComment.isEmpty() ? kNoCustomerInstructions : withFileLineEnds(slip.SlipComment));
+    out.print(slip.SlipComment.isEmpty() && !commentAsItStands ? kNoCustomerInstructions
+                                                                : withFileLineEnds(slip.SlipComment));
     return out;
 }
-
 
 AppointmentSlip readSlipFile(DiskRoutines& disk, const QString& slipName, CommentRead commentRead) {
     TextReader in = disk.ReadTextFile(appointmentFileName(slipName));
@@ -59,9 +65,9 @@ AppointmentSlip readSlipFile(DiskRoutines& disk, const QString& slipName, Commen
     s.SlipDate = readStatement(in, QStringLiteral("date"), [&] { return in.readDate(); });
     s.SlipName = readStatement(in, QStringLiteral("appointment number"), [&] { return in.readString(); });
     s.SlipPointOfService =
-        readStatement(in, QStringLiteral("Point of Service"), [&] { return toInt16(in.readNumber()); });
-    s.Slots = readStatement(in, QStringLiteral("time slots"), [&] { return toInt16(in.readNumber()); });
-    s.SlipStartRow = readStatement(in, QStringLiteral("start row"), [&] { return toInt16(in.readNumber()); });
+        readStatement(in, QStringLiteral("Point of Service"), [&] { return readInt16(in); });
+    s.Slots = readStatement(in, QStringLiteral("time slots"), [&] { return readInt16(in); });
+    s.SlipStartRow = readStatement(in, QStringLiteral("start row"), [&] { return readInt16(in); });
     for (QString& field : s.Customer)
         field = readStatement(in, QStringLiteral("customer fields"), [&] { return in.readString(); });
     s.SlipComment = readStatement(in, QStringLiteral("comments"), [&] {
@@ -96,8 +102,7 @@ QStringList ListSlipFiles(DiskRoutines& disk) {
         if (!e.name.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) continue;
         names << e.name.chopped(4);
     }
-    std::sort(names.begin(), names.end(),
-              [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+    SortIgnoringCase(names);
     return names;
 }
 
@@ -117,6 +122,10 @@ void WriteSlip(DiskRoutines& disk, const AppointmentSlip& slip) {
     disk.ReplaceTextFile(appointmentFileName(slip.SlipName), slipWriter(slip));
 }
 
+void RewriteInvoicedSlip(DiskRoutines& disk, const QString& slipName, const AppointmentSlip& slip) {
+    disk.ReplaceTextFile(appointmentFileName(slipName), slipWriter(slip, true));
+}
+
 void WriteServicesFile(DiskRoutines& disk, const QString& slipName, const std::vector<SlipService>& services) {
     TextWriter out;
     for (const SlipService& s : services) {
@@ -125,6 +134,16 @@ void WriteServicesFile(DiskRoutines& disk, const QString& slipName, const std::v
         out.writeNumber(s.slots);
     }
     disk.ReplaceTextFile(servicesFileName(slipName), out);
+}
+
+void AppendServicesFile(DiskRoutines& disk, const QString& slipName, const std::vector<SlipService>& added) {
+    TextWriter& out = disk.OpenForAppend(servicesFileName(slipName));
+    for (const SlipService& s : added) {
+        out.writeString(s.name);
+        out.writeNumber(s.cost.tenThousandths() / 10000);
+        out.print(QString::fromLatin1(Money::fromWhole(s.slots).statementText())); // a Currency is written bare
+    }
+    disk.CloseAllFiles();
 }
 
 std::vector<SlipService> ReadServicesFile(DiskRoutines& disk, const QString& slipName) {
@@ -140,7 +159,7 @@ std::vector<SlipService> ReadServicesFile(DiskRoutines& disk, const QString& sli
         if (!money)
             throw StoreError(name, QStringLiteral("The cost of %1 is no amount: %2").arg(s.name, QString::fromLatin1(cost)));
         s.cost = *money;
-        s.slots = readStatement(in, QStringLiteral("time of ") + s.name, [&] { return toInt16(in.readNumber()); });
+        s.slots = readStatement(in, QStringLiteral("time of ") + s.name, [&] { return readInt16(in); });
         services.push_back(std::move(s));
     }
     return services;
@@ -176,7 +195,7 @@ bool SoldItemsFileExists(DiskRoutines& disk, const QString& slipName) {
 }
 
 void WriteFileToPrint(DiskRoutines& disk, const QString& slipName) {
-    disk.DeleteDataFile(kFileToPrint);
+    // The new hand-over takes the old one's place in one step: a crash never leaves none.
     TextWriter out;
     out.writeString(slipName);
     disk.ReplaceTextFile(kFileToPrint, out);
@@ -195,7 +214,11 @@ void DeleteAppointment(DiskRoutines& disk, const QString& fileName) {
 }
 
 void DeleteSlipFilesByNumber(DiskRoutines& disk, int number) {
-    const QString file = QString::number(number) + QStringLiteral(".txt");
+    DeleteSlipFilesByNumber(disk, QString::number(number));
+}
+
+void DeleteSlipFilesByNumber(DiskRoutines& disk, const QString& slipName) {
+    const QString file = slipName + QStringLiteral(".txt");
     disk.DeleteDataFile(QStringLiteral("/Appointmemts/") + file);
     disk.DeleteDataFile(QStringLiteral("/SoldItems/") + file);
     disk.DeleteDataFile(QStringLiteral("/Services/") + file);
@@ -205,24 +228,31 @@ void LoadWorkSlipCounter(DiskRoutines& disk, const QDate& today, int assignmentC
     const QString todayText = QString::number(today.dayOfYear());
     counter.day = todayText;
     counter.number = 1;
+    std::optional<QByteArray> stored;
     // An absent counter with a copy in /Backup is restored by the existence test.
     if (disk.FileExists(kSlipCounter)) {
         TextReader in = disk.ReadTextFile(kSlipCounter);
+        stored = in.bytes();
         const QString day = readStatement(in, QStringLiteral("day"), [&] { return in.readString(); });
         const qint64 number = readStatement(in, QStringLiteral("running number"), [&] { return in.readInteger(); });
         if (day == todayText) counter.number = number;
     }
     counter.SlipId = counter.day + u'-' + QString::number(counter.number);
-    SaveSlipCounter(disk, counter);
+    // Every showing of the creation screen comes here; a counter that already holds these very bytes
+    // is not written again (a safe replace costs a flush to disk), but its backup is dropped as a save
+    // would drop it.
+    const TextWriter out = slipCounterWriter(counter);
+    if (stored && *stored == out.bytes())
+        disk.DeleteDataFile(kBackupSlipCounter);
+    else
+        disk.ReplaceTextFile(kSlipCounter, out);
     for (int i = 1; i <= assignmentCount; ++i) {
         if (disk.FileExists(appointmentFileName(SlipName(i, counter.SlipId)))) DeleteSlipFilesByNumber(disk, i);
     }
 }
 
 void SaveSlipCounter(DiskRoutines& disk, const SlipCounter& counter) {
-    TextWriter out;
-    out.write({counter.day, counter.number});
-    disk.ReplaceTextFile(kSlipCounter, out);
+    disk.ReplaceTextFile(kSlipCounter, slipCounterWriter(counter));
 }
 
 void UpcountSlipCounter(DiskRoutines& disk, SlipCounter& counter) {

@@ -62,6 +62,10 @@ QByteArray SlipFileBytes(const AppointmentSlip& slip);
 // comment is stored as "No Customer Instructions".
 void WriteSlip(DiskRoutines& disk, const AppointmentSlip& slip);
 
+// The invoice's rewrite of a posted job's slip, as "/Appointments/<slipName>.txt" replaced in one
+// step: `slip` holds the fields in their invoiced places, and its comment is written as it stands,
+// an empty one included.
+void RewriteInvoicedSlip(DiskRoutines& disk, const QString& slipName, const AppointmentSlip& slip);
 // One line of a slip's Services file.
 struct SlipService {
     QString name;
@@ -73,6 +77,10 @@ struct SlipService {
 void WriteServicesFile(DiskRoutines& disk, const QString& slipName, const std::vector<SlipService>& services);
 // An absent file is no services. A file cut short throws StoreError naming it.
 std::vector<SlipService> ReadServicesFile(DiskRoutines& disk, const QString& slipName);
+// Services added on the work order screen, appended to the slip's Services file: the name, the
+// price as an Integer where the cost stands (so the price is whole), then the slot count written
+// as a Currency. A reader takes them back as cost and slots.
+void AppendServicesFile(DiskRoutines& disk, const QString& slipName, const std::vector<SlipService>& added);
 
 // One sold item of a slip: three lines as they were printed (quantity, description, unit cost).
 struct SlipSoldItem {
@@ -96,6 +104,9 @@ void DeleteAppointment(DiskRoutines& disk, const QString& fileName);
 // Deletes "/Appointmemts/<n>.txt", "/SoldItems/<n>.txt" and "/Services/<n>.txt": the first folder
 // name is misspelled and the names are bare numbers, so this removes nothing a slip is stored as.
 void DeleteSlipFilesByNumber(DiskRoutines& disk, int number);
+// The same three paths for a whole SlipName (the work order purge): the slip file stays, its
+// Services and SoldItems files go.
+void DeleteSlipFilesByNumber(DiskRoutines& disk, const QString& slipName);
 
 // The slip numbering: the day of year it was issued and the next running number.
 struct SlipCounter {

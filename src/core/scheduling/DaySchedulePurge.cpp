@@ -66,7 +66,7 @@ void PurgePastDays(DiskRoutines& disk, const QDate& date, int dayOfYear, int poi
     qint64 startDay = 1;
     if (disk.FileExists(kLastPurgedFile)) {
         TextReader reader = disk.ReadTextFile(kLastPurgedFile);
-        startDay = reader.readInteger();
+        startDay = reader.readInteger(-32768, 32767); // an Integer in the file's own format
     }
     disk.ReplaceTextFile(kLastPurgedFile, TextWriter().writeNumber(dayOfYear));
     for (int n = 1; n <= pointOfServiceCount; ++n) {

@@ -4,6 +4,7 @@
 #include "TimeGrid.h"
 #include "WorkDays.h"
 #include "shell/Session.h"
+#include "store/LocaleText.h"
 
 namespace ostrel {
 
@@ -184,7 +185,7 @@ void frmWorkSchedules::PrintSchedule() {
     cmdWorkSchedules[kLoadDay].enabled = false;
     cmdWorkSchedules[kPrint].enabled = false;
     DaySheetContent content;
-    content.date = DTPicker1.value.toString(QStringLiteral("M/d/yyyy"));
+    content.date = ShortDateText(DTPicker1.value);
     content.pointOfService = lstAssociates.List(lstAssociates.listIndex);
     content.schedule = &fgSchedule;
     if (PrintDaySheet(m_printer, content, m_session.settings) == PrintResult::Printed) ClearSchedule();

@@ -63,7 +63,7 @@ void frmWorkSchedules::LoadOverview() {
         if (slip.SlipDate < DTStart.value || slip.SlipDate > DTEnd.value) continue;
         const int r = fgOverview.Rows();
         fgOverview.SetRows(r + 1);
-        fgOverview.SetTextMatrix(r, kScheduled, slip.SlipDate.toString(QStringLiteral("M/d/yyyy")));
+        fgOverview.SetTextMatrix(r, kScheduled, vbDate(slip.SlipDate));
         fgOverview.SetTextMatrix(r, kAccountNo, slip.Customer[0]);
         fgOverview.SetTextMatrix(r, kCustomer, slip.Customer[1]);
         fgOverview.SetTextMatrix(r, kServicePoint, vbTrim(lstAssociates.List(slip.SlipPointOfService - 1)));

@@ -36,8 +36,13 @@ private:
 
 inline const QString kServiceAreasFile = QStringLiteral("/ServiceAreas.txt");
 
+// What is wrong with the bytes of a Points of Service file, or an empty text when nothing is.
+QString JudgeServiceAreas(const QByteArray& bytes);
+
 // The table as the file gives it: "empty" when the file is absent (after the restore attempt),
 // otherwise "populated" and one name per statement until the end, so an empty file has no names.
+// A damaged file is reported and kept from being saved over.
+
 PointOfServiceNames LoadPointOfServiceNames(DiskRoutines& disk);
 
 // Replaces the file (its backup goes too) with one statement per list entry, in list order, and

@@ -15,7 +15,7 @@ TextField SettingsFieldReader::next() {
 double SettingsFieldReader::readInRange(double low, double high, const char* kind) {
     const TextField f = next();
     const double value = std::nearbyint(f.toNumber());
-    if (value < low || value > high)
+    if (!std::isfinite(value) || value < low || value > high)
         throw StoreError(m_reader.fileName(),
                          QStringLiteral("Field %1 holds \"%2\", which is out of range for %3.")
                              .arg(m_field)
@@ -38,7 +38,7 @@ qint32 SettingsFieldReader::readLong() {
 float SettingsFieldReader::readSingle() {
     const TextField f = next();
     const double value = f.toNumber();
-    if (std::fabs(value) > std::numeric_limits<float>::max())
+    if (!std::isfinite(value) || std::fabs(value) > std::numeric_limits<float>::max())
         throw StoreError(
             m_reader.fileName(),
             QStringLiteral("Field %1 holds \"%2\", which is too large for a single-precision number.")

@@ -1,6 +1,6 @@
 #include "SetupScreenCurrency.h"
 
-#include "catalogue/CurrencyText.h"
+#include "store/CurrencyText.h"
 
 #include <cmath>
 

@@ -2,6 +2,7 @@
 
 #include "SetupSettings.h"
 #include "shell/Session.h"
+#include "workorders/frmWorkOrders.h"
 
 namespace ostrel {
 
@@ -69,6 +70,13 @@ void frmSetup::cmdLogo_Click(int index) {
         cmdLogo[1].enabled = false;
         return;
     }
+    case 5:
+        // The sample is a work order, drawn as the work order screen draws one.
+        if (auto* workOrders = m_session.ScreenAs<frmWorkOrders>(ScreenId::frmWorkOrders))
+            workOrders->PrintSampleWorkOrder();
+        else
+            m_session.ShowScreen(ScreenId::frmWorkOrders); // says the screen is not there
+        return;
     default:
         return;
     }

@@ -2,12 +2,15 @@
 
 #include "ReturnPartsInstructions.h"
 #include "shell/Session.h"
+#include "workorders/frmWorkOrders.h"
 
 namespace ostrel {
 
 void frmSetup::ckReturnParts_Click() {
-    // The work order screen's instructions box follows this option through the settings.
+    // The work order screen's instructions box follows this option, now and through the settings.
     storeOptions();
+    if (auto* workOrders = m_session.ScreenAs<frmWorkOrders>(ScreenId::frmWorkOrders))
+        workOrders->ckInstructions.value = ckReturnParts.value;
 }
 
 void frmSetup::cmdReturn_Click(int index) {

@@ -120,8 +120,13 @@ void frmSetup::storeOptions() {
     s.tax.cboRate2 = cboRate2.text;
     s.tax.ckApply1stTax = static_cast<qint16>(ckApply1stTax.value);
 
-    s.colors.txtBorders = static_cast<qint32>(txtBorders.BackColor & 0xFFFFFFu);
-    s.colors.txtData = static_cast<qint32>(txtData.BackColor & 0xFFFFFFu);
+    // The screen shows a stored number as a 24-bit colour; a system colour number (negative) is kept
+    // exactly unless the owner picked another colour.
+    const auto keepUnlessPicked = [](qint32& stored, Colour shown) {
+        if (shown != (static_cast<Colour>(stored) & 0xFFFFFFu)) stored = static_cast<qint32>(shown & 0xFFFFFFu);
+    };
+    keepUnlessPicked(s.colors.txtBorders, txtBorders.BackColor);
+    keepUnlessPicked(s.colors.txtData, txtData.BackColor);
     s.colors.lblFont = lblFont.caption;
     s.colors.ckColor = ckColor.value;
     s.colors.cboCopies = cboCopies.text;

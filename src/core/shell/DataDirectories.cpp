@@ -1,8 +1,12 @@
 #include "DataDirectories.h"
 
+#include "RecordFormats.h"
 #include "store/DiskRoutines.h"
+#include "store/SafeReplace.h"
 #include "store/StoreError.h"
 #include "util/VbText.h"
+
+#include <QRegularExpression>
 
 namespace ostrel {
 
@@ -61,10 +65,36 @@ QString accountProblem(const QString& account, int recordNumber) {
         .arg(QString(account).replace(QChar(0), u' ').trimmed());
 }
 
+void removeLeftoversIn(DiskRoutines& disk, const QString& folder) {
+    for (const DataRoot::Listed& e : disk.root().entries(folder))
+        if (e.kind == DataRoot::Kind::File && IsLeftoverTemporaryName(e.name)) disk.DeleteDataFile(folder + u'/' + e.name);
+}
+
 } // namespace
+
+void RemoveLeftoverTemporaries(DiskRoutines& disk) {
+    // The folders the program saves into: the root, each folder in it, and each folder of a year's
+    // folder (the day files). The customers' AuxFiles trees are too many to walk at every start.
+    removeLeftoversIn(disk, QStringLiteral("/"));
+    static const QRegularExpression year(QStringLiteral("^[0-9]{4}$"));
+    for (const DataRoot::Listed& e : disk.root().entries(QStringLiteral("/"))) {
+        if (e.kind != DataRoot::Kind::Directory || e.name.compare(QLatin1String("AuxFiles"), Qt::CaseInsensitive) == 0)
+            continue;
+        const QString folder = u'/' + e.name;
+        removeLeftoversIn(disk, folder);
+        if (!year.match(e.name).hasMatch()) continue;
+        for (const DataRoot::Listed& inner : disk.root().entries(folder))
+            if (inner.kind == DataRoot::Kind::Directory) removeLeftoversIn(disk, folder + u'/' + inner.name);
+    }
+}
 
 QStringList PrepareDataDirectories(DiskRoutines& disk, QDate today, const QString& programName) {
     QStringList problems;
+    try {
+        RemoveLeftoverTemporaries(disk);
+    } catch (const StoreError& e) {
+        problems << e.userMessage();
+    }
     disk.MakeDirectoryIfAbsent(u'/' + QString::number(today.year()).rightJustified(4, u'0'));
     // The program's own folder is never used again. Here the executable has no extension, so it
     // stands in the data root under that very name; it is left alone rather than being in the way.
@@ -75,6 +105,7 @@ QStringList PrepareDataDirectories(DiskRoutines& disk, QDate today, const QStrin
         disk.MakeDirectoryIfAbsent(QString::fromLatin1(name));
 
     const QString customers = QStringLiteral("/CustomerData.txt");
+    CheckRecordFileOnRead(disk, customers);
     if (disk.FileExists(customers) && disk.FileRecordCount(customers, DiskRoutines::kCustomerRecordLength) >= 1) {
         RandomFile& file = disk.OpenCustomerFile();
         AuxTreeRepair repair(disk);

@@ -1,5 +1,7 @@
 #include "DataFolderReport.h"
 
+#include "RecordFormats.h"
+#include "setup/PointOfServiceNames.h"
 #include "store/DataRoot.h"
 #include "store/StoreError.h"
 
@@ -9,18 +11,6 @@
 namespace ostrel {
 
 namespace {
-
-struct KnownFile {
-    const char* name;
-    int recordLength;
-};
-
-constexpr KnownFile kRecordFiles[] = {
-    {"/CustomerData.txt", 328}, {"/ContractInfo.txt", 386},      {"/CycleInfo.txt", 69},
-    {"/Services.txt", 72},      {"/OIInventoriedItems.txt", 104}, {"/CustomItems.txt", 70},
-    {"/SoldItems.txt", 90},     {"/AssociateJournal.txt", 115},   {"/OAPaymentRecords.txt", 155},
-    {"/TaxRecords.txt", 75},
-};
 
 constexpr int kMostRecords = 32767;
 constexpr int kDayFileLines = 48;
@@ -38,23 +28,24 @@ int countLines(const QString& path) {
 
 DataFolderReport InspectDataFolder(const DataRoot& root) {
     DataFolderReport r;
-    for (const KnownFile& k : kRecordFiles) {
+    for (const RecordFormat& k : KnownRecordFormats()) {
         DataFolderReport::RecordFile f;
-        f.name = QString::fromLatin1(k.name);
-        f.recordLength = k.recordLength;
+        f.name = k.name;
+        f.recordLength = k.length;
         const DataRoot::Entry e = root.resolve(f.name);
         f.present = e.isFile();
         if (f.present) {
             f.bytes = e.size;
-            f.records = e.size / k.recordLength;
-            f.partialBytes = static_cast<int>(e.size % k.recordLength);
-            if (f.partialBytes != 0)
-                r.problems << QStringLiteral("%1: %2 bytes is no multiple of its record length %3; the last record "
-                                             "has only %4 bytes.")
-                                  .arg(f.name)
-                                  .arg(e.size)
-                                  .arg(k.recordLength)
-                                  .arg(f.partialBytes);
+            QFile file(e.path);
+            if (!file.open(QIODevice::ReadOnly)) {
+                r.problems << QStringLiteral("%1: the file cannot be read: %2").arg(f.name, file.errorString());
+            } else {
+                const RecordFileVerdict v = JudgeRecordFile(k, file.readAll());
+                f.records = v.wholeRecords;
+                f.partialBytes = v.partialBytes;
+                for (const QString& p : v.problems) r.problems << f.name + QStringLiteral(": ") + p + u'.';
+                for (const QString& n : v.notes) r.notes << f.name + QStringLiteral(": ") + n + u'.';
+            }
             if (f.records > kMostRecords)
                 r.problems << QStringLiteral("%1: %2 records, more than the %3 the program can number.")
                                   .arg(f.name)
@@ -62,6 +53,14 @@ DataFolderReport InspectDataFolder(const DataRoot& root) {
                                   .arg(kMostRecords);
         }
         r.recordFiles.append(f);
+    }
+    const DataRoot::Entry areas = root.resolve(kServiceAreasFile);
+    if (areas.isFile()) {
+        QFile file(areas.path);
+        if (file.open(QIODevice::ReadOnly)) {
+            const QString damage = JudgeServiceAreas(file.readAll());
+            if (!damage.isEmpty()) r.problems << kServiceAreasFile + QStringLiteral(": ") + damage;
+        }
     }
 
     static const QRegularExpression year(QStringLiteral("^\\d{4}$"));
@@ -106,6 +105,7 @@ QString DataFolderReport::toText() const {
     out += QStringLiteral("Appointment slips         %1\n").arg(slips);
     out += QStringLiteral("Completed invoices        %1\n").arg(invoices);
     out += QStringLiteral("Customer aux folders      %1\n").arg(auxFolders);
+    for (const QString& n : notes) out += QStringLiteral("Note: ") + n + u'\n';
     if (problems.isEmpty()) {
         out += QStringLiteral("No problems found.\n");
     } else {

@@ -8,7 +8,8 @@ namespace ostrel {
 
 class DataRoot;
 
-// What a data folder holds, and which of its files are cut short or malformed. Reads only.
+// What a data folder holds, and which of its files are cut short or malformed, judged by the same
+// rules the program reads them by. Reads only.
 struct DataFolderReport {
     struct RecordFile {
         QString name;
@@ -24,7 +25,8 @@ struct DataFolderReport {
     int slips = 0;
     int invoices = 0;
     int auxFolders = 0;
-    QStringList problems;
+    QStringList problems; // what the program cannot read as it stands: it would report the file damaged
+    QStringList notes;    // legal but worth knowing, such as a short last record the count includes
 
     QString toText() const;
 };

@@ -10,6 +10,12 @@ class frmDialer;
 class frmDisplay;
 class frmContract;
 class frmWorkSchedules;
+class frmTerms;
+class frmWorkOrders;
+class frmInvoice;
+class frmCreate;
+class frmBlock;
+class frmAppointments;
 
 // The screens of this version beyond the welcome screen and the menu.
 struct ProgramScreens {
@@ -20,6 +26,12 @@ struct ProgramScreens {
     frmDisplay& display;
     frmContract& contract;
     frmWorkSchedules& workSchedules;
+    frmTerms& terms;
+    frmWorkOrders& workOrders;
+    frmInvoice& invoice;
+    frmCreate& create;
+    frmBlock& block;
+    frmAppointments& appointments;
 };
 
 // Brings every screen into the session and connects the account screen to the dialer. Runs before

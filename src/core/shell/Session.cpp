@@ -23,6 +23,11 @@ Session::Session(const QString& dataRoot, Platform& platform_)
     : root(dataRoot), disk(root), platform(platform_) {
     m_splash = std::make_unique<frmSplash>(*this);
     m_startup = std::make_unique<frmStartup>(*this);
+    disk.SetDamageHooks([this](const QString& name, const QString& problem) { ShowMessage(DamagedFileMessage(name, problem), kDamagedFileTitle); },
+                        [this](const QString& name, const QString& problem) {
+                            return platform.dialogs.MsgBox(DamagedFileQuestion(name, problem), vbYesNo + vbExclamation + vbDefaultButton2,
+                                                           kDamagedFileTitle) == vbYes;
+                        });
 }
 
 Session::~Session() = default;
@@ -30,6 +35,10 @@ Session::~Session() = default;
 Session::StartResult Session::Main() {
     // 1. One copy per data folder; nothing has touched the disk yet.
     if (!platform.instance.TryAcquire()) {
+        if (platform.instance.FolderNotWritable()) {
+            ShowMessage(FolderNotWritableMessage(root.root()), platform.app.title());
+            return StartResult::FolderNotWritable;
+        }
         platform.dialogs.MsgBox(platform.app.title() + QStringLiteral(" is already Running!") + u'\n' +
                                     QStringLiteral("Look for it on the Task Bar"),
                                 vbOKOnly);
@@ -46,6 +55,7 @@ Session::StartResult Session::Main() {
     // 4. The settings and the modem, read as the Setup screen loads.
     Guarded([&] { LoadSetupSettings(disk, programName(), settings); });
     LoadPhoneSettings(*this, platform.serial);
+    LoadScreen(ScreenId::frmTerms);
     LoadScreen(ScreenId::frmSetup);
     // 6. The Points of Service and their lists; the account screen is loaded with its list.
     LoadServiceAreas();
@@ -54,9 +64,11 @@ Session::StartResult Session::Main() {
     const int count = pointOfServiceNames.UpperBound();
     Guarded([&] { PurgeLastYear(disk, today(), count); });
     Guarded([&] { PurgePastDays(disk, today(), today().dayOfYear(), count); });
-    // 9. The main menu, loaded hidden, then the catalogue.
+    // 9. The main menu, loaded hidden, then the catalogue and the appointment routines.
     RegisterScreen(ScreenId::frmStartup, *m_startup);
     LoadScreen(ScreenId::frmServices);
+    LoadScreen(ScreenId::frmAppointments);
+    m_started = true;
     return StartResult::Running;
 }
 

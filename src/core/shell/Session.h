@@ -51,12 +51,14 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    enum class StartResult { Running, AnotherCopyRunning };
+    enum class StartResult { Running, AnotherCopyRunning, FolderNotWritable };
     // The start-up sequence. Ends with the welcome screen shown, or refuses a second copy.
     StartResult Main();
     // Unloads and hides every screen, last first, and ends the process.
     void ExitProgram();
     bool hasEnded() const { return m_ended; }
+    // True once Main has loaded every screen; until then the welcome screen's controls do nothing.
+    bool hasStarted() const { return m_started; }
 
     void LoadServiceAreas();
     bool RequiredFilesPresent();
@@ -126,6 +128,7 @@ private:
     std::unique_ptr<frmSplash> m_splash;
     std::unique_ptr<frmStartup> m_startup;
     bool m_ended = false;
+    bool m_started = false;
 };
 
 } // namespace ostrel

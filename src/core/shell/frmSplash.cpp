@@ -38,9 +38,12 @@ frmSplash::frmSplash(Session& session) : Screen(QStringLiteral("frmSplash")), m_
 }
 
 void frmSplash::cmdContinue_Click() {
+    // The modem probe lets events through while the screens are still loading: a click then
+    // would reach a screen not there yet.
+    if (!m_session.hasStarted()) return;
     if (m_session.RequiredFilesPresent()) {
-        m_session.ShowScreen(ScreenId::frmStartup);
-        Hide();
+        // The welcome screen stays unless another window takes its place.
+        if (m_session.ShowScreen(ScreenId::frmStartup)) Hide();
         return;
     }
     setWelcomeShown(true);
@@ -56,6 +59,7 @@ void frmSplash::setWelcomeShown(bool shown) {
 }
 
 void frmSplash::Image1_Click(int index) {
+    if (!m_session.hasStarted()) return;
     if (index == 1) setWelcomeShown(false);
     if (m_session.ShowScreen(ScreenId::frmSetup)) Hide();
 }

@@ -101,8 +101,12 @@ void frmStartup::Activate(int index) {
     m_session.ShowScreen(target);
 }
 
-void frmStartup::optMainMenuSub_DblClick(int index) {
+void frmStartup::optMainMenuSub_Click(int index) {
     for (auto& [i, option] : optMainMenuSub) option.value = i == index;
+}
+
+void frmStartup::optMainMenuSub_DblClick(int index) {
+    optMainMenuSub_Click(index);
     Activate(index);
 }
 

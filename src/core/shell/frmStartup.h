@@ -19,6 +19,8 @@ public:
     explicit frmStartup(Session& session, SupplierLinks links = SupplierLinks::configured());
 
     void Form_Activate() override;
+    // The thirteen routines are one set whichever box they stand in: choosing one clears the rest.
+    void optMainMenuSub_Click(int index);
     void optMainMenuSub_DblClick(int index);
     void cmdGoto_Click();
     void mnuCreate_Click();

@@ -14,6 +14,12 @@ constexpr std::array<char16_t, 32> kHighControls = {
 } // namespace
 
 QString decode(QByteArrayView bytes) {
+    // Outside 0x80 to 0x9F the code page is Latin-1, which Qt converts many bytes at a time.
+    const auto* data = reinterpret_cast<const unsigned char*>(bytes.data());
+    bool latin1 = true;
+    for (qsizetype i = 0; i < bytes.size() && latin1; ++i)
+        latin1 = data[i] < 0x80 || data[i] >= 0xA0;
+    if (latin1) return QString::fromLatin1(bytes);
     QString out(bytes.size(), Qt::Uninitialized);
     QChar* dst = out.data();
     for (qsizetype i = 0; i < bytes.size(); ++i) {

@@ -100,11 +100,26 @@ void DataRoot::noteChange(const QString& fullPath, bool created) const {
 }
 
 DataRoot::Entry DataRoot::resolve(const QString& name) const {
-    const QStringList ps = parts(name);
-    QString exact = m_root;
-    for (const QString& p : ps) exact += u'/' + p;
+    // The name as spelled, put together in one pass: most names are found so, and every read and
+    // write comes here. The parts are split out only for the walk below.
+    QString exact;
+    exact.reserve(m_root.size() + name.size() + 1);
+    exact += m_root;
+    qsizetype partCount = 0;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= name.size(); ++i) {
+        if (i < name.size() && name[i] != u'/' && name[i] != u'\\') continue;
+        const QStringView part = QStringView(name).mid(start, i - start);
+        start = i + 1;
+        if (part.isEmpty() || part == u".") continue;
+        if (part == u".." || part.contains(QChar(0))) (void)parts(name); // throws, naming the name
+        exact += u'/';
+        exact += part;
+        ++partCount;
+    }
     Entry e = statPath(exact);
-    if (e.exists() || ps.isEmpty()) return e;
+    if (e.exists() || partCount == 0) return e;
+    const QStringList ps = parts(name);
 
     // Not there as spelled: walk the parts and match each against its directory's listing.
     QString current = m_root;

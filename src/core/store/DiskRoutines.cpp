@@ -1,14 +1,16 @@
 #include "DiskRoutines.h"
 
+#include "FileOps.h"
+#include "SafeReplace.h"
 #include "StoreError.h"
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 #include <cerrno>
 #include <cmath>
 #include <cstring>
+#include <fcntl.h>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -135,6 +137,10 @@ RandomFile& DiskRoutines::OpenRandom(const QString& name, int recordLength) {
     ch->target = writableTarget(name);
     const bool created = !ch->target.exists();
     ch->random = std::make_unique<RandomFile>(ch->target.path, name, recordLength);
+    if (m_damaged.contains(ch->target.path)) {
+        const QString path = ch->target.path;
+        ch->random->setBeforeWrite([this, path, name] { mayWriteOver(path, name); });
+    }
     if (created) m_root.noteCreated(ch->target.path);
     PrimaryChannel = static_cast<qint16>(openChannel(std::move(ch)));
     return *m_channels.at(PrimaryChannel)->random;
@@ -148,10 +154,34 @@ RandomFile& DiskRoutines::OpenRandomSecondary(const QString& name, int recordLen
     return f;
 }
 
+void DiskRoutines::SetDamageHooks(DamageReport report, OverwriteQuestion ask) {
+    m_reportDamage = std::move(report);
+    m_askOverwrite = std::move(ask);
+}
+
+void DiskRoutines::ReportDamage(const QString& name, const QString& problem) {
+    const QString path = m_root.resolve(name).path;
+    if (m_damaged.contains(path)) return;
+    m_damaged.insert(path, problem);
+    if (m_reportDamage) m_reportDamage(name, problem);
+}
+
+bool DiskRoutines::IsDamaged(const QString& name) const { return m_damaged.contains(m_root.resolve(name).path); }
+
+void DiskRoutines::mayWriteOver(const QString& path, const QString& name) {
+    const auto it = m_damaged.constFind(path);
+    if (it == m_damaged.constEnd()) return;
+    if (m_askOverwrite && m_askOverwrite(name, it.value())) {
+        m_damaged.remove(path);
+        return;
+    }
+    throw DamagedFileKept(name, QStringLiteral("This file was found damaged when it was read, so it was left as it is: "
+                                          "nothing was saved to it."));
+}
+
 void DiskRoutines::writeWhole(const DataRoot::Entry& target, const QString& name, const QByteArray& bytes) {
-    QSaveFile f(target.path);
-    if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size() || !f.commit())
-        throw StoreError(name, QStringLiteral("The file could not be written: ") + f.errorString());
+    mayWriteOver(target.path, name);
+    ReplaceFileWhole(target.path, name, bytes);
     if (!target.exists()) m_root.noteCreated(target.path);
 }
 
@@ -163,11 +193,17 @@ void DiskRoutines::commit(Channel& c) {
         writeWhole(c.target, c.name, c.writer.bytes());
         break;
     case Channel::Mode::Append: {
-        QFile f(c.target.path);
-        if (!f.open(QIODevice::WriteOnly | QIODevice::Append) || f.write(c.writer.bytes()) != c.writer.bytes().size() ||
-            !f.flush())
-            throw StoreError(c.name, QStringLiteral("The file could not be written: ") + f.errorString());
-        if (!c.target.exists()) m_root.noteCreated(c.target.path);
+        // The old lines and the new ones take the file's place in one step: a crash or a failed
+        // write leaves the file as it was or with every new line, never with part of one.
+        QByteArray bytes;
+        if (c.target.isFile()) {
+            QFile in(c.target.path);
+            if (!in.open(QIODevice::ReadOnly))
+                throw StoreError(c.name, QStringLiteral("The file cannot be opened: ") + in.errorString());
+            bytes = in.readAll();
+        }
+        bytes += c.writer.bytes();
+        writeWhole(c.target, c.name, bytes);
         break;
     }
     case Channel::Mode::Random:
@@ -200,7 +236,8 @@ void DiskRoutines::DeleteDataFile(const QString& name) {
     CloseAllFiles();
     const DataRoot::Entry e = m_root.resolve(name);
     if (!e.isFile()) return;
-    if (::unlink(QFile::encodeName(e.path).constData()) != 0)
+    mayWriteOver(e.path, name);
+    if (FileOps::current().unlink(QFile::encodeName(e.path)) != 0)
         throw StoreError(name, QStringLiteral("The file could not be deleted: ") + systemError());
     m_root.noteRemoved(e.path);
 }
@@ -233,8 +270,7 @@ void DiskRoutines::RenameDataFile(const QString& oldName, const QString& newName
     if (!from.isFile()) throw StoreError(oldName, QStringLiteral("File not found."));
     if (to.exists() && to.path != from.path) throw StoreError(newName, QStringLiteral("File already exists."));
     writableTarget(newName);
-    if (::rename(QFile::encodeName(from.path).constData(), QFile::encodeName(to.path).constData()) != 0)
-        throw StoreError(oldName, QStringLiteral("The file could not be renamed: ") + systemError());
+    MoveFileOver(from.path, to.path, oldName);
     m_root.noteRemoved(from.path);
     m_root.noteCreated(to.path);
     DeleteDataFile(oldName);
@@ -249,10 +285,45 @@ void DiskRoutines::CopyDataFile(const QString& sourceName, const QString& target
     writeWhole(writableTarget(targetName), targetName, in.readAll());
 }
 
+void DiskRoutines::PutRecords(const QString& name, int recordLength, qint64 firstRecord,
+                              const QByteArray& records) {
+    if (recordLength <= 0 || firstRecord < 1)
+        throw StoreError(name, QStringLiteral("A record was to be written at an impossible place."));
+    const DataRoot::Entry target = writableTarget(name);
+    QByteArray bytes;
+    if (target.isFile()) {
+        QFile in(target.path);
+        if (!in.open(QIODevice::ReadOnly))
+            throw StoreError(name, QStringLiteral("The file cannot be opened: ") + in.errorString());
+        bytes = in.readAll();
+    }
+    const qint64 offset = (firstRecord - 1) * recordLength;
+    const qint64 oldSize = bytes.size();
+    if (oldSize < offset + records.size()) {
+        bytes.resize(offset + records.size());
+        std::memset(bytes.data() + oldSize, 0, static_cast<size_t>(bytes.size() - oldSize));
+    }
+    std::memcpy(bytes.data() + offset, records.constData(), static_cast<size_t>(records.size()));
+    writeWhole(target, name, bytes);
+}
+
 void DiskRoutines::ReplaceTextFile(const QString& name, const TextWriter& content) {
     DeleteDataFile(kBackup + name);
     OpenForOutput(name) = content;
     CloseAllFiles();
+}
+
+void DiskRoutines::ReplaceWithFile(const QString& sourceName, const QString& targetName) {
+    CloseAllFiles();
+    const DataRoot::Entry from = m_root.resolve(sourceName);
+    if (!from.isFile()) throw StoreError(sourceName, QStringLiteral("File not found."));
+    const DataRoot::Entry to = writableTarget(targetName);
+    mayWriteOver(to.path, targetName);
+    DeleteDataFile(kBackup + targetName);
+    SyncFile(from.path, sourceName);
+    MoveFileOver(from.path, to.path, targetName);
+    m_root.noteRemoved(from.path);
+    if (!to.exists()) m_root.noteCreated(to.path);
 }
 
 void DiskRoutines::ReplaceRecordFile(const QString& name, const QByteArray& records) {

@@ -6,6 +6,9 @@
 
 #include <QString>
 
+#include <QHash>
+
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -57,6 +60,9 @@ public:
     void RemoveDataDirectory(const QString& name);
     // Fails when the new name is taken or the old one is absent.
     void RenameDataFile(const QString& oldName, const QString& newName);
+    // The scratch file takes the target's place in one step (the target's backup copy is dropped);
+    // at no moment is there no target.
+    void ReplaceWithFile(const QString& sourceName, const QString& targetName);
     // Copies a file over another (the target replaced safely).
     void CopyDataFile(const QString& sourceName, const QString& targetName);
     void CopyRelative(const QString& sourceName, const QString& targetName) { CopyDataFile(sourceName, targetName); }
@@ -68,8 +74,22 @@ public:
     // The same for a file of fixed records written whole: its backup copy is dropped, and the file
     // is replaced in one step, so a crash leaves the old records or the new ones.
     void ReplaceRecordFile(const QString& name, const QByteArray& records);
+    // Writes `records` (whole records) from record number `firstRecord` on, the way a put of each
+    // would, but in one step: the file is rewritten beside itself and renamed over, so a crash
+    // leaves it as it was or with every new record. A file that is absent is created; its backup
+    // copy is left alone.
+    void PutRecords(const QString& name, int recordLength, qint64 firstRecord, const QByteArray& records);
     // The whole file for the field and line reads; throws when it is absent.
     TextReader ReadTextFile(const QString& name);
+
+    // A file found damaged when it was read. The owner is told once a run (through the report
+    // hook), and nothing writes over the file or deletes it in this run unless the owner, asked
+    // through the overwrite hook, agrees; without that hook every such write is refused.
+    using DamageReport = std::function<void(const QString& name, const QString& problem)>;
+    using OverwriteQuestion = std::function<bool(const QString& name, const QString& problem)>;
+    void SetDamageHooks(DamageReport report, OverwriteQuestion ask);
+    void ReportDamage(const QString& name, const QString& problem);
+    bool IsDamaged(const QString& name) const;
 
     bool DirectoryExists(const QString& name) const { return m_root.resolve(name).isDirectory(); }
     bool PathIsFile(const QString& name) const { return m_root.resolve(name).isFile(); }
@@ -100,9 +120,14 @@ private:
     void commit(Channel& ch);
     void writeWhole(const DataRoot::Entry& target, const QString& name, const QByteArray& bytes);
     DataRoot::Entry writableTarget(const QString& name) const;
+    // Throws unless the file at this path may be written over (see ReportDamage).
+    void mayWriteOver(const QString& path, const QString& name);
 
     const DataRoot& m_root;
     std::map<int, std::unique_ptr<Channel>> m_channels;
+    QHash<QString, QString> m_damaged; // full path -> what is wrong
+    DamageReport m_reportDamage;
+    OverwriteQuestion m_askOverwrite;
 };
 
 } // namespace ostrel

@@ -1,6 +1,6 @@
 #include "Money.h"
 
-#include "catalogue/CurrencyText.h"
+#include "CurrencyText.h"
 
 #include <cmath>
 #include <limits>
@@ -8,8 +8,10 @@
 namespace ostrel {
 
 Money Money::fromDouble(double value) {
-    if (!std::isfinite(value)) return Money();
-    return Money(static_cast<qint64>(std::nearbyint(value * 10000.0)));
+    const double scaled = std::nearbyint(value * 10000.0);
+    // Compared as a double first: converting a value no 64-bit count can hold is undefined.
+    if (!std::isfinite(scaled) || scaled < -9223372036854775808.0 || scaled >= 9223372036854775808.0) return Money();
+    return Money(static_cast<qint64>(scaled));
 }
 
 std::optional<Money> Money::fromStatementText(QByteArrayView text) {
@@ -64,6 +66,18 @@ QByteArray Money::statementText() const {
 
 QString FormatMoney(Money amount) {
     return currencytext::format(amount.tenThousandths());
+}
+
+QString Money::plainText() const {
+    const QByteArray statement = statementText();
+    if (statement.startsWith('.')) return u'0' + QString::fromLatin1(statement);
+    if (statement.startsWith("-.")) return QStringLiteral("-0") + QString::fromLatin1(statement.mid(1));
+    return QString::fromLatin1(statement);
+}
+
+QString FormatMoneyText(const QString& text) {
+    const std::optional<Money> amount = Money::fromDisplayText(text);
+    return amount ? FormatMoney(*amount) : text;
 }
 
 } // namespace ostrel

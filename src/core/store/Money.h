@@ -16,7 +16,8 @@ public:
     constexpr Money() = default;
     static constexpr Money fromTenThousandths(qint64 v) { return Money(v); }
     static constexpr Money fromWhole(qint64 units) { return Money(units * 10000); }
-    // A double scaled to ten-thousandths, halves to even, as the old currency conversion rounds.
+    // A double scaled to ten-thousandths, halves to even, as the old currency conversion rounds;
+    // a value no count of ten-thousandths can hold (nan, inf, 1e300) gives nothing (zero).
     static Money fromDouble(double value);
     // The number form of a text statement ("120", "45.5", ".25", "-3.1416"), exactly; nothing for
     // any other text.
@@ -28,6 +29,9 @@ public:
     double toDouble() const { return static_cast<double>(m_value) / 10000.0; }
     // The number as a quoted write puts a Currency: no trailing zeros, no leading zero before the point.
     QByteArray statementText() const;
+    // The plain number as the bookkeeping records hold it: no sign of currency, no separators, a
+    // leading zero, up to four decimals and no trailing zeros ("1.6492", "0.5", "-3.25", "0").
+    QString plainText() const;
 
     constexpr Money operator+(Money o) const { return Money(m_value + o.m_value); }
     constexpr Money operator-(Money o) const { return Money(m_value - o.m_value); }
@@ -43,5 +47,7 @@ private:
 
 // The display form: "$1,234.50", negatives "($1,234.50)", rounded to cents.
 QString FormatMoney(Money amount);
+// A text amount put in the display form; a text that is no amount stays as it is.
+QString FormatMoneyText(const QString& text);
 
 } // namespace ostrel

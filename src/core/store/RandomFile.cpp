@@ -1,19 +1,38 @@
 #include "RandomFile.h"
 
+#include "FileOps.h"
 #include "StoreError.h"
 
+#include <QFile>
+
 #include <cmath>
+#include <cerrno>
 #include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace ostrel {
 
+namespace {
+QString systemError() { return QString::fromLocal8Bit(std::strerror(errno)); }
+} // namespace
+
 RandomFile::RandomFile(const QString& path, const QString& name, int recordLength)
-    : m_file(path), m_name(name), m_length(recordLength) {
+    : m_name(name), m_length(recordLength) {
     if (recordLength <= 0) throw StoreError(name, QStringLiteral("The record length must be positive."));
-    if (!m_file.open(QIODevice::ReadWrite))
-        throw StoreError(name, QStringLiteral("The file cannot be opened: ") + m_file.errorString());
-    m_size = m_file.size();
+    m_fd = FileOps::current().open(QFile::encodeName(path), O_RDWR | O_CREAT, 0666);
+    if (m_fd < 0) throw StoreError(name, QStringLiteral("The file cannot be opened: ") + systemError());
+    struct stat st {};
+    if (::fstat(m_fd, &st) != 0) {
+        const QString why = systemError();
+        close();
+        throw StoreError(name, QStringLiteral("The file cannot be opened: ") + why);
+    }
+    m_size = st.st_size;
 }
+
+RandomFile::~RandomFile() { close(); }
 
 int RandomFile::recordCount() const {
     return static_cast<int>(std::nearbyint(static_cast<double>(m_size) / m_length));
@@ -21,10 +40,18 @@ int RandomFile::recordCount() const {
 
 void RandomFile::load() {
     if (m_loaded) return;
-    m_file.seek(0);
-    m_cache = m_file.readAll();
-    if (m_cache.size() != m_size)
-        throw StoreError(m_name, QStringLiteral("The file could not be read: ") + m_file.errorString());
+    m_cache.resize(m_size);
+    qint64 done = 0;
+    while (done < m_size) {
+        const ssize_t n = ::pread(m_fd, m_cache.data() + done, static_cast<size_t>(m_size - done), done);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) {
+            const QString why = n < 0 ? systemError() : QStringLiteral("the file is shorter than it was");
+            m_cache.clear();
+            throw StoreError(m_name, QStringLiteral("The file could not be read: ") + why);
+        }
+        done += n;
+    }
     m_loaded = true;
 }
 
@@ -47,8 +74,13 @@ void RandomFile::put(int recordNumber, const Record& record) {
                                      .arg(record.length())
                                      .arg(m_length));
     const qint64 offset = static_cast<qint64>(recordNumber - 1) * m_length;
-    if (!m_file.seek(offset) || m_file.write(record.bytes()) != m_length || !m_file.flush())
-        throw StoreError(m_name, QStringLiteral("The record could not be written: ") + m_file.errorString());
+    if (m_fd < 0) throw StoreError(m_name, QStringLiteral("The file is closed."));
+    if (m_beforeWrite) {
+        m_beforeWrite();
+        m_beforeWrite = nullptr;
+    }
+    if (FileOps::current().pwrite(m_fd, record.bytes().constData(), m_length, offset) != m_length)
+        throw StoreError(m_name, QStringLiteral("The record could not be written: ") + systemError());
     m_size = std::max(m_size, offset + m_length);
     if (m_loaded) {
         if (m_cache.size() < offset + m_length) m_cache.resize(offset + m_length, '\0');
@@ -56,6 +88,10 @@ void RandomFile::put(int recordNumber, const Record& record) {
     }
 }
 
-void RandomFile::close() { m_file.close(); }
+void RandomFile::close() {
+    if (m_fd < 0) return;
+    FileOps::current().close(m_fd);
+    m_fd = -1;
+}
 
 } // namespace ostrel

@@ -2,16 +2,21 @@
 
 #include "Record.h"
 
-#include <QFile>
 #include <QString>
+
+#include <functional>
 
 namespace ostrel {
 
 // A fixed-record file open for reading and writing. Record r (from 1) lies at (r - 1) * length.
-// The file is read once into memory on first use; writes go straight to disk and to that copy.
+// The file is read once into memory on first use; writes go straight to disk (through the store's
+// file operations) and to that copy.
 class RandomFile {
 public:
     RandomFile(const QString& path, const QString& name, int recordLength);
+    ~RandomFile();
+    RandomFile(const RandomFile&) = delete;
+    RandomFile& operator=(const RandomFile&) = delete;
 
     int recordLength() const { return m_length; }
     // Records in the file, counting a last partial record when at least half of it is there.
@@ -24,15 +29,18 @@ public:
     qint64 byteSize() const { return m_size; }
     void close();
     const QString& name() const { return m_name; }
+    // Runs before the first write; it may throw to refuse it.
+    void setBeforeWrite(std::function<void()> check) { m_beforeWrite = std::move(check); }
 
 private:
     void load();
-    QFile m_file;
+    int m_fd = -1;
     QString m_name;
     int m_length;
     qint64 m_size = 0;
     QByteArray m_cache;
     bool m_loaded = false;
+    std::function<void()> m_beforeWrite;
 };
 
 } // namespace ostrel

@@ -26,4 +26,10 @@ private:
     QString m_problem;
 };
 
+// A write refused because the file was found damaged when it was read and the owner chose to keep it.
+class DamagedFileKept : public StoreError {
+public:
+    using StoreError::StoreError;
+};
+
 } // namespace ostrel

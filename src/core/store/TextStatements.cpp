@@ -2,6 +2,7 @@
 
 #include "Cp1252.h"
 #include "StoreError.h"
+#include "LocaleText.h"
 
 #include <cmath>
 #include <cstdio>
@@ -81,6 +82,15 @@ double TextField::toNumber() const {
         if (raw == "#FALSE#") return 0;
     }
     const QByteArray t = raw.trimmed();
+    // Whole numbers, the most common field, without the general conversion (exact to 15 digits).
+    const bool minus = t.startsWith('-');
+    if (const qsizetype digits = t.size() - (minus ? 1 : 0); digits > 0 && digits <= 15) {
+        qint64 n = 0;
+        qsizetype i = minus ? 1 : 0;
+        for (; i < t.size() && t[i] >= '0' && t[i] <= '9'; ++i)
+            n = n * 10 + (t[i] - '0');
+        if (i == t.size() && !(minus && n == 0)) return minus ? -static_cast<double>(n) : static_cast<double>(n);
+    }
     bool ok = false;
     const double d = t.toDouble(&ok);
     if (ok) return d;
@@ -90,7 +100,14 @@ double TextField::toNumber() const {
     return end == t.constData() ? 0.0 : lead;
 }
 
-qint64 TextField::toInteger() const { return static_cast<qint64>(std::nearbyint(toNumber())); }
+std::optional<qint64> TextField::toIntegerIn(qint64 low, qint64 high) const {
+    const double d = std::nearbyint(toNumber());
+    // Compared as doubles first: a cast of a value out of range is undefined.
+    if (!std::isfinite(d) || d < -9223372036854775808.0 || d >= 9223372036854775808.0) return std::nullopt;
+    const qint64 n = static_cast<qint64>(d);
+    if (n < low || n > high) return std::nullopt;
+    return n;
+}
 
 bool TextField::toBoolean() const {
     if (!quoted && raw == "#TRUE#") return true;
@@ -104,9 +121,28 @@ bool TextField::toBoolean() const {
 QDate TextField::toDate() const {
     QByteArray t = raw.trimmed();
     if (t.startsWith('#') && t.endsWith('#') && t.size() >= 2) t = t.mid(1, t.size() - 2);
+    // The form the program writes, read by hand: the format parser costs more than the rest of a
+    // slip's read. Anything else, or no valid day, goes through the parser as before.
+    if (t.size() >= 10 && t[4] == '-' && t[7] == '-') {
+        int y = 0, m = 0, day = 0;
+        bool digits = true;
+        for (int i : {0, 1, 2, 3, 5, 6, 8, 9}) {
+            const char c = t[i];
+            if (c < '0' || c > '9') {
+                digits = false;
+                break;
+            }
+            int& part = i < 4 ? y : i < 7 ? m : day;
+            part = part * 10 + (c - '0');
+        }
+        if (digits && y >= 1) {
+            const QDate quick(y, m, day);
+            if (quick.isValid()) return quick;
+        }
+    }
     const QString s = QString::fromLatin1(t.left(10));
     QDate d = QDate::fromString(s, u"yyyy-MM-dd");
-    if (!d.isValid()) d = QDate::fromString(QString::fromLatin1(t), u"M/d/yyyy");
+    if (!d.isValid()) d = ParseShortDate(QString::fromLatin1(t));
     return d;
 }
 
@@ -127,6 +163,22 @@ void TextReader::skipDelimiter() {
     }
 }
 
+qint64 TextReader::readInteger(qint64 low, qint64 high) { return integerIn(readField(), low, high); }
+
+qint64 TextReader::readIntegerLine(qint64 low, qint64 high) {
+    TextField f;
+    f.raw = cp1252::encode(readLine());
+    return integerIn(f, low, high);
+}
+
+qint64 TextReader::integerIn(const TextField& f, qint64 low, qint64 high) const {
+    if (const std::optional<qint64> n = f.toIntegerIn(low, high)) return *n;
+    throw StoreError(m_file, QStringLiteral("The file holds \"%1\" where a whole number from %2 to %3 belongs.")
+                                 .arg(f.toString())
+                                 .arg(low)
+                                 .arg(high));
+}
+
 TextField TextReader::readField() {
     if (atEnd()) throwPastEnd();
     while (m_pos < m_bytes.size() && isBlank(m_bytes[m_pos])) ++m_pos;
@@ -137,6 +189,7 @@ TextField TextReader::readField() {
         while (m_pos < m_bytes.size() && m_bytes[m_pos] != '"') ++m_pos;
         f.raw = m_bytes.mid(start, m_pos - start);
         if (m_pos < m_bytes.size()) ++m_pos; // closing quote
+        else f.unterminated = true;
         // Whatever stands between the closing quote and the next delimiter is passed over.
         while (m_pos < m_bytes.size() && m_bytes[m_pos] != ',' && !isLineEnd(m_bytes[m_pos])) ++m_pos;
     } else {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <limits>
+#include <optional>
+
 #include <QByteArray>
 #include <QDate>
 #include <QDateTime>
@@ -40,10 +43,12 @@ private:
 struct TextField {
     QByteArray raw;   // without the quotes of a quoted field
     bool quoted = false;
+    bool unterminated = false; // a quoted field the file ended inside
 
     QString toString() const;
     double toNumber() const;    // a number, #TRUE# (-1), #FALSE# (0); anything else 0
-    qint64 toInteger() const;   // the number rounded half to even
+    // The number rounded half to even; std::nullopt when it is no finite number within [low, high].
+    std::optional<qint64> toIntegerIn(qint64 low, qint64 high) const;
     bool toBoolean() const;     // #TRUE#, or a number other than 0
     QDate toDate() const;       // #yyyy-mm-dd#; invalid when the field holds no date
     bool isNull() const { return !quoted && raw == "#NULL#"; }
@@ -61,7 +66,12 @@ public:
     TextField readField();
     QString readString() { return readField().toString(); }
     double readNumber() { return readField().toNumber(); }
-    qint64 readInteger() { return readField().toInteger(); }
+    // A whole number (rounded half to even) that must lie within [low, high]: "nan", "inf", "1e300"
+    // or a number out of range makes the file a bad file (StoreError naming it).
+    qint64 readInteger(qint64 low = std::numeric_limits<qint64>::min(), qint64 high = std::numeric_limits<qint64>::max());
+    // A whole line read as a whole number the same way.
+    qint64 readIntegerLine(qint64 low = std::numeric_limits<qint64>::min(),
+                           qint64 high = std::numeric_limits<qint64>::max());
     bool readBoolean() { return readField().toBoolean(); }
     QDate readDate() { return readField().toDate(); }
 
@@ -73,6 +83,7 @@ public:
 
 private:
     void throwPastEnd() const;
+    qint64 integerIn(const TextField& f, qint64 low, qint64 high) const;
     void skipDelimiter();
 
     QByteArray m_bytes;

@@ -4,8 +4,12 @@
 #include "printing/frmSales.h"
 #include "shell/ProgramScreens.h"
 #include "views/ContractView.h"
+#include "views/CreateView.h"
+#include "views/AppointmentsView.h"
+#include "views/BlockView.h"
 #include "views/DialerView.h"
 #include "views/DisplayView.h"
+#include "views/InvoiceView.h"
 #include "views/NewCustomerView.h"
 #include "views/ReprintView.h"
 #include "views/SalesView.h"
@@ -14,9 +18,12 @@
 #include "views/SplashView.h"
 #include "views/StartupView.h"
 #include "views/WorkSchedulesView.h"
+#include "views/TermsView.h"
+#include "views/WorkOrdersView.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 
 static void initUiResources() { Q_INIT_RESOURCE(ui); }
 
@@ -24,11 +31,17 @@ namespace ostrel::ui {
 
 void InitResources() { initUiResources(); }
 
-Application::Application(AppInfo app)
+Application::Application(AppInfo app, ApplicationOptions options)
     : m_app(std::move(app)), m_lockRoot(m_app.path()), m_dialogs(m_app),
       m_instance(m_lockRoot, m_app.programName()),
-      m_platform{m_dialogs, m_clock, m_instance, m_browser, m_app, m_serial, m_printDialogs} {
+      m_printDialogs(options.choosePrinter ? std::move(options.choosePrinter)
+                                           : QtPrintDialogs::Chooser(&QtPrintDialogs::ExecPrintDialog)),
+      m_platform{m_dialogs,  options.clock ? *options.clock : m_clock, m_instance, m_browser, m_app, m_serial,
+                 m_printDialogs} {
     InitResources();
+    // Every window shows the program's icon; the desktop entry of an installed copy shows the same.
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/icon.png")));
+    QGuiApplication::setDesktopFileName(QStringLiteral("ostrel-appointment-scheduler"));
     m_session = std::make_unique<Session>(m_lockRoot.root(), m_platform);
     m_session->endProcess = [] { QCoreApplication::quit(); };
     Binder::setAlarmSwitch([this] { return m_session->settings.program.alarms(); });
@@ -46,9 +59,18 @@ Application::Application(AppInfo app)
         m_reprint = std::make_unique<ReprintView>(*m_session, *reprint);
     if (auto* sales = m_session->ScreenAs<frmSales>(ScreenId::frmSales))
         m_sales = std::make_unique<SalesView>(*m_session, *sales);
+    m_terms = std::make_unique<TermsView>(*m_session, screens.terms);
+    m_workOrders = std::make_unique<WorkOrdersView>(*m_session, screens.workOrders);
+    m_invoice = std::make_unique<InvoiceView>(*m_session, screens.invoice);
+    m_create = std::make_unique<CreateView>(*m_session, screens.create);
+    m_block = std::make_unique<BlockView>(*m_session, screens.block);
+    m_appointments = std::make_unique<AppointmentsView>(*m_session, screens.appointments);
 }
 
-Application::~Application() = default;
+Application::~Application() {
+    // The bell's switch reads this session's settings: it goes with them.
+    Binder::setAlarmSwitch({});
+}
 
 bool Application::start() { return m_session->Main() == Session::StartResult::Running; }
 

@@ -25,12 +25,25 @@ class ContractView;
 class WorkSchedulesView;
 class ReprintView;
 class SalesView;
+class TermsView;
+class WorkOrdersView;
+class InvoiceView;
+class CreateView;
+class BlockView;
+class AppointmentsView;
+
+// What may stand in for the desktop's own clock and print dialog, so a whole day of the program
+// can be run without a person: a fixed date, and every print into a file.
+struct ApplicationOptions {
+    Clock* clock = nullptr;                // the system clock when none
+    QtPrintDialogs::Chooser choosePrinter; // Qt's print dialog when none
+};
 
 // The program on the desktop: the real platform, the session and one view per screen.
 class Application {
 public:
     // The data root is the folder of the executable named in `app`.
-    explicit Application(AppInfo app);
+    explicit Application(AppInfo app, ApplicationOptions options = {});
     ~Application();
 
     // The start-up sequence; false when another copy runs and this one must end.
@@ -62,6 +75,12 @@ private:
     std::unique_ptr<WorkSchedulesView> m_workSchedules;
     std::unique_ptr<ReprintView> m_reprint;
     std::unique_ptr<SalesView> m_sales;
+    std::unique_ptr<TermsView> m_terms;
+    std::unique_ptr<WorkOrdersView> m_workOrders;
+    std::unique_ptr<InvoiceView> m_invoice;
+    std::unique_ptr<CreateView> m_create;
+    std::unique_ptr<BlockView> m_block;
+    std::unique_ptr<AppointmentsView> m_appointments;
 };
 
 // The resources of the view library (pictures); a static library must ask for them.

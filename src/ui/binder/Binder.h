@@ -2,6 +2,7 @@
 
 #include "ControlBinding.h"
 #include "controls/Controls.h"
+#include "controls/PickerControls.h"
 #include "platform/ControlRegistry.h"
 
 #include <QObject>

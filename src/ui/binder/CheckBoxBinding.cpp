@@ -1,6 +1,7 @@
 #include "CheckBoxBinding.h"
 
 #include <QCheckBox>
+#include <QTimer>
 
 namespace ostrel::ui {
 
@@ -15,8 +16,21 @@ int toValue(Qt::CheckState state) {
 
 CheckBoxBinding::CheckBoxBinding(Binder& binder, QCheckBox* box, CheckBox& model)
     : ControlBinding(binder, model, box), m_model(model) {
+    // A mouse click or the space bar toggles, then clicks; an assistive tool's toggle action only
+    // toggles. Either way the logic hears a Click once; the program's own pushes are not heard.
+    connect(box, &QAbstractButton::toggled, this, [this] {
+        if (pushing()) return;
+        m_toggledWithoutClick = true;
+        QTimer::singleShot(0, this, [this] {
+            if (!m_toggledWithoutClick) return;
+            m_toggledWithoutClick = false;
+            pull();
+            fire(handlers.click);
+        });
+    });
     connect(box, &QAbstractButton::clicked, this, [this] {
         if (pushing()) return;
+        m_toggledWithoutClick = false;
         pull();
         if (takeClickAfterDoubleClick()) return;
         fire(handlers.click);

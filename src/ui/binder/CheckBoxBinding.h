@@ -19,6 +19,8 @@ protected:
 
 private:
     CheckBox& m_model;
+    // A toggle no click followed: made through the accessibility interface, still the user's.
+    bool m_toggledWithoutClick = false;
 };
 
 } // namespace ostrel::ui

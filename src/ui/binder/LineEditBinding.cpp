@@ -3,6 +3,7 @@
 #include "Binder.h"
 
 #include <QLineEdit>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -12,7 +13,17 @@ LineEditBinding::LineEditBinding(Binder& binder, QLineEdit* edit, TextBox& model
     : ControlBinding(binder, model, edit), m_model(model) {
     watchMouseClicks(); // a box may act on a click (one that counts up, say)
     connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+        m_changedWithoutEdit = false;
         if (!pushing()) edited(text);
+    });
+    connect(edit, &QLineEdit::textChanged, this, [this] {
+        if (pushing()) return;
+        m_changedWithoutEdit = true;
+        QTimer::singleShot(0, this, [this] {
+            if (!m_changedWithoutEdit) return;
+            m_changedWithoutEdit = false;
+            if (this->edit() && this->edit()->text() != m_model.text) edited(this->edit()->text());
+        });
     });
     connect(edit, &QLineEdit::cursorPositionChanged, this, [this] {
         if (!pushing()) pullSelection();

@@ -27,6 +27,8 @@ private:
     TextBox& m_model;
     int m_syncedSelStart = 0;
     int m_syncedSelLength = 0;
+    // Text set by an assistive tool changes the box without an edit signal: still the user's.
+    bool m_changedWithoutEdit = false;
 };
 
 } // namespace ostrel::ui

@@ -2,6 +2,7 @@
 
 #include <QButtonGroup>
 #include <QRadioButton>
+#include <QTimer>
 
 namespace ostrel::ui {
 
@@ -9,8 +10,18 @@ OptionButtonBinding::OptionButtonBinding(Binder& binder, QRadioButton* button, O
     : ControlBinding(binder, model, button), m_model(model) {
     // Both the chosen button and the one it clears report; each keeps its own model current. Also
     // during a push: a sibling cleared by the one just pushed must not be pushed back on.
-    connect(button, &QAbstractButton::toggled, this, [this] { pull(); });
+    connect(button, &QAbstractButton::toggled, this, [this](bool on) {
+        pull();
+        if (!on || pushing()) return;
+        m_chosenWithoutClick = true;
+        QTimer::singleShot(0, this, [this] {
+            if (!m_chosenWithoutClick) return;
+            m_chosenWithoutClick = false;
+            fire(handlers.click);
+        });
+    });
     connect(button, &QAbstractButton::clicked, this, [this] {
+        m_chosenWithoutClick = false;
         if (pushing() || takeClickAfterDoubleClick()) return;
         fire(handlers.click);
     });

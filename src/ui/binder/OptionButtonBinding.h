@@ -23,6 +23,8 @@ protected:
 
 private:
     OptionButton& m_model;
+    // Chosen by a toggle no click followed (an assistive tool's action): still the user's choice.
+    bool m_chosenWithoutClick = false;
 };
 
 } // namespace ostrel::ui

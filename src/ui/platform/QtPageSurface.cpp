@@ -41,6 +41,7 @@ QFont QtPageSurface::toQFont(const PrintFont& font) {
     f.setPointSizeF(font.size > 0 ? font.size : 10);
     f.setBold(font.bold);
     f.setUnderline(font.underline);
+    f.setItalic(font.italic);
     // Widths must add up character by character, as the layouts that right-align figures assume.
     f.setKerning(false);
     f.setHintingPreference(QFont::PreferNoHinting);
@@ -62,7 +63,7 @@ double QtPageSurface::unit() const {
 }
 
 const QtPageSurface::Metrics& QtPageSurface::metricsOf(const PrintFont& font) {
-    const auto key = std::make_tuple(font.name, font.size, font.bold, font.underline);
+    const auto key = std::make_tuple(font.name, font.size, font.bold, font.underline, font.italic);
     auto it = m_metrics.find(key);
     if (it == m_metrics.end()) {
         const QFont f = toQFont(font);
@@ -82,6 +83,19 @@ std::optional<QSizeF> QtPageSurface::PictureSize(const QString& picture) {
     const QSize px = reader.size();
     if (!px.isValid() || px.isEmpty()) return std::nullopt;
     return QSizeF(px.width() * kTwipsPerPicturePixel, px.height() * kTwipsPerPicturePixel);
+}
+
+QRectF QtPageSurface::PrintableArea() const {
+    const QRectF sheet(0, 0, sheetWidth(), sheetHeight());
+    // A file is drawn whole, whatever margins the printer's set-up carried.
+    if (m_printer.outputFormat() != QPrinter::NativeFormat) return sheet;
+    // The printer's own unprintable strips, for the orientation the job prints in.
+    QPageLayout layout = m_printer.pageLayout();
+    layout.setOrientation(Orientation == kLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    layout.setUnits(QPageLayout::Point);
+    const QMarginsF m = layout.minimumMargins() * 20.0; // 20 twips to the point
+    const QRectF area = sheet.marginsRemoved(m);
+    return area.isValid() ? area : sheet;
 }
 
 void QtPageSurface::applyPageSettings() {

@@ -15,7 +15,8 @@ class QPrinter;
 namespace ostrel::ui {
 
 // The printer object on a QPrinter: Letter, the whole sheet addressable, 1440 dots to the inch so
-// a device unit is a twip. Text is measured with the printer's own font metrics, so what
+// a device unit is a twip. On a printer positions start at the corner of what it can print; a PDF
+// can print the whole sheet. Text is measured with the printer's own font metrics, so what
 // TextWidth says is what lands on the page.
 class QtPageSurface : public PageSurface {
 public:
@@ -41,6 +42,7 @@ public:
     QPrinter& printer() { return m_printer; }
 
     std::optional<QSizeF> PictureSize(const QString& picture) override;
+    QRectF PrintableArea() const override;
 
 protected:
     QSizeF measure(const PrintFont& font, const QString& line) override;
@@ -64,7 +66,7 @@ private:
 
     QPrinter& m_printer;
     QPainter m_painter;
-    std::map<std::tuple<QString, double, bool, bool>, Metrics> m_metrics;
+    std::map<std::tuple<QString, double, bool, bool, bool>, Metrics> m_metrics;
 };
 
 } // namespace ostrel::ui

@@ -119,28 +119,13 @@ QLayout* serviceFrames(QWidget* parent) {
     return over;
 }
 
-QAction* action(const QString& name, QObject* parent) {
-    auto* a = new QAction(parent);
-    a->setObjectName(name);
-    return a;
-}
-
 } // namespace
 
 ContractView::ContractView(Session& session, frmContract& screen)
     : ScreenView(session.platform.dialogs), m_screen(screen) {
     setMinimumSize(1180, 720);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 10);
-    auto* bar = new QMenuBar(this);
-    bar->addAction(action(QStringLiteral("mnuServices"), bar));
-    bar->addAction(action(QStringLiteral("mnuManual"), bar));
-    outer->setMenuBar(bar);
-
-    auto* body = new QHBoxLayout;
-    body->setContentsMargins(14, 10, 14, 0);
-    body->setSpacing(16);
-    outer->addLayout(body, 1);
+    QVBoxLayout* outer = WindowWithMenuBar(this, {"mnuServices", "mnuManual"});
+    QHBoxLayout* body = AddBodyRow(outer);
 
     auto* left = new QVBoxLayout;
     left->addWidget(partyBox(this));

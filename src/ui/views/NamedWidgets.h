@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAction>
 #include <QLabel>
 #include <QString>
 #include <QWidget>
@@ -17,6 +18,14 @@ template <typename W> W* named(const QString& name, QWidget* parent) {
 inline QString element(const char* base, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(base)).arg(index);
 }
+
+// A menu entry named as its menu control.
+inline QAction* namedAction(const QString& name, QObject* parent) {
+    auto* a = new QAction(parent);
+    a->setObjectName(name);
+    return a;
+}
+inline QAction* namedAction(const char* name, QObject* parent) { return namedAction(QString::fromLatin1(name), parent); }
 
 // A caption, tied to the box it names so that its access key reaches the box.
 inline QLabel* label(const QString& name, QWidget* parent, QWidget* buddy = nullptr) {

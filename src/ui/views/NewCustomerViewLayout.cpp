@@ -265,7 +265,15 @@ QWidget* foundFrame(QWidget* parent) {
     auto* v = new QVBoxLayout(found);
     auto* grid = named<QTableWidget>(QStringLiteral("fgCustomersFound"), found);
     grid->setMinimumHeight(170);
-    grid->horizontalHeader()->setStretchLastSection(true);
+    // The name takes the room across; the telephone and the record number only what they need.
+    grid->horizontalHeader()->setStretchLastSection(false);
+    QObject::connect(grid->model(), &QAbstractItemModel::columnsInserted, grid, [grid] {
+        QHeaderView* header = grid->horizontalHeader();
+        for (int c = 0; c < header->count(); ++c)
+            header->setSectionResizeMode(c, c == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    });
+    // Rows a line of text high, so the list shows as many customers as its room holds.
+    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 8);
     grid->setAccessibleName(QStringLiteral("Customers found"));
     InstallGridWheel(grid);
     v->addWidget(grid, 1);
@@ -309,12 +317,6 @@ QLayout* buttonColumn(QWidget* parent) {
     return v;
 }
 
-QAction* action(const QString& name, QObject* parent) {
-    auto* a = new QAction(parent);
-    a->setObjectName(name);
-    return a;
-}
-
 } // namespace
 
 QMenu* BuildNewCustomerWidgets(QWidget* window) {
@@ -323,7 +325,7 @@ QMenu* BuildNewCustomerWidgets(QWidget* window) {
 
     auto* bar = new QMenuBar(window);
     for (const char* n : {"mnuAdd", "mnuDelete", "mnuAux", "mnuPrint"})
-        bar->addAction(action(QString::fromLatin1(n), bar));
+        bar->addAction(namedAction(QString::fromLatin1(n), bar));
     outer->setMenuBar(bar);
 
     auto* body = new QHBoxLayout;
@@ -335,9 +337,11 @@ QMenu* BuildNewCustomerWidgets(QWidget* window) {
     auto* over = new QGridLayout;
     over->addWidget(accountFields(window), 0, 0);
     over->addWidget(auxFrame(window), 0, 0);
-    left->addLayout(over, 1);
+    // The fields keep their own height; the room below them goes to the customer list.
+    left->addLayout(over);
     left->addWidget(searchFrame(window));
     left->addWidget(foundFrame(window), 1);
+    left->addStretch(0);
     body->addLayout(left, 1);
     // A column of its own width, whatever the layout of the fields beside it.
     auto* buttons = new QWidget(window);
@@ -349,7 +353,7 @@ QMenu* BuildNewCustomerWidgets(QWidget* window) {
     auto* popup = new QMenu(window);
     popup->setObjectName(QStringLiteral("mnupopupMenu"));
     popup->menuAction()->setObjectName(QStringLiteral("mnupopup"));
-    popup->addAction(action(QStringLiteral("mnuSelect"), popup));
+    popup->addAction(namedAction(QStringLiteral("mnuSelect"), popup));
     return popup;
 }
 

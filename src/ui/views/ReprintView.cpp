@@ -4,6 +4,7 @@
 #include "ScreenWindow.h"
 #include "invoicing/frmReprint.h"
 #include "shell/Session.h"
+#include "store/LocaleText.h"
 
 #include <QAction>
 #include <QDateEdit>
@@ -74,14 +75,7 @@ QGroupBox* addressBox(const QString& title, const char* base, QWidget* parent) {
 ReprintView::ReprintView(Session& session, frmReprint& screen)
     : ScreenView(session.platform.dialogs), m_screen(screen) {
     setMinimumSize(1040, 680);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 10);
-
-    auto* bar = new QMenuBar(this);
-    auto* sort = new QAction(bar);
-    sort->setObjectName(QStringLiteral("mnuSort"));
-    bar->addAction(sort);
-    outer->setMenuBar(bar);
+    QVBoxLayout* outer = WindowWithMenuBar(this, {"mnuSort"});
 
     // The detail frame lies over the list, as a sheet laid on it.
     auto* over = new QGridLayout;
@@ -112,7 +106,7 @@ QWidget* ReprintView::listPanel() {
     dateCaption->setWordWrap(true);
     auto* date = named<QDateEdit>(QStringLiteral("DTPicker1"), records);
     date->setCalendarPopup(true);
-    date->setDisplayFormat(QStringLiteral("M/d/yyyy"));
+    date->setDisplayFormat(kShortDateFormat);
     dateCaption->setBuddy(date);
     rv->addWidget(dateCaption);
     rv->addWidget(date);

@@ -4,6 +4,7 @@
 #include "ScreenWindow.h"
 #include "printing/frmSales.h"
 #include "shell/Session.h"
+#include "store/LocaleText.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -23,7 +24,7 @@ namespace {
 QDateEdit* dateBox(int index, QWidget* parent) {
     auto* d = named<QDateEdit>(element("DTPicker1", index), parent);
     d->setCalendarPopup(true);
-    d->setDisplayFormat(QStringLiteral("M/d/yyyy"));
+    d->setDisplayFormat(kShortDateFormat);
     d->setMinimumWidth(130);
     return d;
 }

@@ -1,11 +1,13 @@
 #include "StartupView.h"
 
+#include "NamedWidgets.h"
 #include "ScreenWindow.h"
 #include "binder/ClickableImage.h"
 #include "shell/Session.h"
 #include "shell/frmStartup.h"
 
 #include <QAction>
+#include <QButtonGroup>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -32,13 +34,14 @@ QLabel* heading(int index, QWidget* parent, int grow) {
     return l;
 }
 
-QWidget* group(int headingIndex, const int* routines, int count, QWidget* parent) {
+QWidget* group(int headingIndex, const int* routines, int count, QWidget* parent, QButtonGroup* set) {
     auto* box = new QGroupBox(parent);
     auto* l = new QVBoxLayout(box);
     l->addWidget(heading(headingIndex, box, 1));
     for (int i = 0; i < count; ++i) {
         auto* b = new QRadioButton(box);
         b->setObjectName(QStringLiteral("optMainMenuSub(%1)").arg(routines[i]));
+        set->addButton(b);
         l->addWidget(b);
     }
     l->addStretch(1);
@@ -53,12 +56,6 @@ QMenu* menu(const QString& name, QWidget* parent) {
     return m;
 }
 
-QAction* action(const QString& name, QObject* parent) {
-    auto* a = new QAction(parent);
-    a->setObjectName(name);
-    return a;
-}
-
 } // namespace
 
 StartupView::StartupView(Session& session, frmStartup& screen)
@@ -69,17 +66,17 @@ StartupView::StartupView(Session& session, frmStartup& screen)
 
     auto* bar = new QMenuBar(this);
     QMenu* files = menu(QStringLiteral("mnuFiles"), bar);
-    QAction* create = action(QStringLiteral("mnuCreate"), files);
-    QAction* exit = action(QStringLiteral("mnuExit"), files);
+    QAction* create = namedAction(QStringLiteral("mnuCreate"), files);
+    QAction* exit = namedAction(QStringLiteral("mnuExit"), files);
     files->addAction(create);
     files->addSeparator();
     files->addAction(exit);
     QMenu* order = menu(QStringLiteral("mnuOrder"), bar);
     QMenu* deluxe = menu(QStringLiteral("mnuDelexe"), order);
-    for (const char* n : {"mnuDeluxe", "mnuSlips"}) deluxe->addAction(action(QString::fromLatin1(n), deluxe));
+    for (const char* n : {"mnuDeluxe", "mnuSlips"}) deluxe->addAction(namedAction(QString::fromLatin1(n), deluxe));
     order->addMenu(deluxe);
     for (const char* n : {"mnuPPaper", "mnuPPPaper", "mnuGraytex", "mnuAddress", "mnuLabels"})
-        order->addAction(action(QString::fromLatin1(n), order));
+        order->addAction(namedAction(QString::fromLatin1(n), order));
     bar->addMenu(files);
     bar->addMenu(order);
     outer->setMenuBar(bar);
@@ -99,9 +96,12 @@ StartupView::StartupView(Session& session, frmStartup& screen)
     top->addWidget(title, 1);
     body->addLayout(top);
 
+    // One set across both boxes: the boxes only group the routines for the eye.
+    auto* routines = new QButtonGroup(this);
+    routines->setExclusive(true);
     auto* groups = new QHBoxLayout;
-    groups->addWidget(group(1, kFileRoutines, int(std::size(kFileRoutines)), this), 1);
-    groups->addWidget(group(2, kAppointmentRoutines, int(std::size(kAppointmentRoutines)), this), 1);
+    groups->addWidget(group(1, kFileRoutines, int(std::size(kFileRoutines)), this, routines), 1);
+    groups->addWidget(group(2, kAppointmentRoutines, int(std::size(kAppointmentRoutines)), this, routines), 1);
     body->addLayout(groups, 1);
 
     auto* bottom = new QHBoxLayout;
@@ -118,6 +118,7 @@ StartupView::StartupView(Session& session, frmStartup& screen)
 
     binder().bindAll(screen.controls);
     Binder& b = binder();
+    b.onClick(screen.optMainMenuSub, [this](int i) { m_screen.optMainMenuSub_Click(i); });
     b.onDoubleClick(screen.optMainMenuSub, [this](int i) { m_screen.optMainMenuSub_DblClick(i); });
     b.onClick(screen.cmdGoto, [this] { m_screen.cmdGoto_Click(); });
     b.onClick(screen.Image1, [this] { m_screen.Image1_Click(); });

@@ -42,18 +42,8 @@ QDateEdit* dateBox(const QString& name, QWidget* parent) {
 WorkSchedulesView::WorkSchedulesView(Session& session, frmWorkSchedules& screen)
     : ScreenView(session.platform.dialogs), m_screen(screen) {
     setMinimumSize(1120, 760);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 10);
-    auto* bar = new QMenuBar(this);
-    auto* toggle = new QAction(bar);
-    toggle->setObjectName(QStringLiteral("mnuToggle"));
-    bar->addAction(toggle);
-    outer->setMenuBar(bar);
-
-    auto* body = new QHBoxLayout;
-    body->setContentsMargins(14, 10, 14, 0);
-    body->setSpacing(16);
-    outer->addLayout(body, 1);
+    QVBoxLayout* outer = WindowWithMenuBar(this, {"mnuToggle"});
+    QHBoxLayout* body = AddBodyRow(outer);
 
     // The day to load and print.
     auto* left = new QVBoxLayout;

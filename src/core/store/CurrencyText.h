@@ -7,8 +7,10 @@
 
 namespace ostrel::currencytext {
 
-// Amounts as the catalogue shows them (en-US): "$1,234.50", negatives "($1,234.50)". Amounts are
-// counts of ten-thousandths; the shown form is rounded to cents, half away from zero.
+// Amounts as the program shows them (en-US): "$1,234.50", negatives "($1,234.50)". Amounts are
+// counts of ten-thousandths; the shown form is rounded to cents, half away from zero, except that a
+// half cent that a double holds just below the half (48.055, 0.105) rounds down, as the old display
+// form did.
 QString format(qint64 tenThousandths);
 
 // Reads a typed or shown amount: blanks around it, "$", thousands commas, a leading "-" or

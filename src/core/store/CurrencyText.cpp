@@ -2,6 +2,8 @@
 
 #include <QtNumeric>
 
+#include <cmath>
+
 namespace ostrel::currencytext {
 
 QString format(qint64 tenThousandths) {
@@ -10,12 +12,35 @@ QString format(qint64 tenThousandths) {
     quint64 magnitude =
         negative ? 0 - static_cast<quint64>(tenThousandths) : static_cast<quint64>(tenThousandths);
     quint64 cents = magnitude / 100;
-    if (magnitude % 100 >= 50) ++cents;
-    QString whole = QString::number(cents / 100);
-    for (qsizetype i = whole.size() - 3; i > 0; i -= 3)
-        whole.insert(i, u',');
-    const QString body = QStringLiteral("$%1.%2").arg(whole).arg(cents % 100, 2, 10, QLatin1Char('0'));
-    return negative ? u'(' + body + u')' : body;
+    const quint64 rest = magnitude % 100;
+    if (rest > 50) {
+        ++cents;
+    } else if (rest == 50) {
+        // A half cent is decided on the amount as a double, the way the old display form rounded
+        // it: 48.055 is stored in binary just below the half and shows $48.05, 0.335 just above
+        // and shows $0.34. A half that a double holds exactly goes away from zero.
+        const double d = static_cast<double>(magnitude) / 10000.0;
+        if (std::fma(d, 10000.0, -static_cast<double>(magnitude)) >= 0) ++cents;
+    }
+    // Put together from the right, by hand: reports format tens of thousands of amounts at once.
+    char16_t text[40];
+    int at = 40;
+    if (negative) text[--at] = u')';
+    const quint64 fraction = cents % 100;
+    text[--at] = static_cast<char16_t>(u'0' + fraction % 10);
+    text[--at] = static_cast<char16_t>(u'0' + fraction / 10);
+    text[--at] = u'.';
+    quint64 whole = cents / 100;
+    int digits = 0;
+    do {
+        if (digits > 0 && digits % 3 == 0) text[--at] = u',';
+        text[--at] = static_cast<char16_t>(u'0' + whole % 10);
+        whole /= 10;
+        ++digits;
+    } while (whole > 0);
+    text[--at] = u'$';
+    if (negative) text[--at] = u'(';
+    return QString(reinterpret_cast<const QChar*>(text + at), 40 - at);
 }
 
 namespace {
