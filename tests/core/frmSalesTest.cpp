@@ -324,3 +324,32 @@ TEST_F(SalesScreen, ALongReportStartsANewPageWithTheSameHead) {
             EXPECT_LT(op.y, 15840);
         }
 }
+
+TEST_F(SalesScreen, TotalsStayExactOverLargeAndNegativeAmounts) {
+    journal({sale("Big", "1", QDate(2026, 11, 2), "Crew One", 900000000000000LL, 36000000000000LL, 5),
+             sale("Refund", "2", QDate(2026, 11, 3), "Crew Two  ", -1234567, -49383),
+             sale("Small", "3", QDate(2026, 11, 4), "Crew Two", 1, 0)});
+    open();
+    const frmSales::Totals& sums = frm.totals();
+    EXPECT_EQ(sums.subTotal.tenThousandths(), 900000000000000LL - 1234567 + 1);
+    EXPECT_EQ(sums.tax.tenThousandths(), 36000000000000LL - 49383);
+    EXPECT_EQ(sums.discount.tenThousandths(), 5);
+    EXPECT_EQ(sums.gross.tenThousandths(), 936000000000000LL - 1234567 - 49383 + 1);
+    EXPECT_EQ(column(frmSales::kSubTotal), (QStringList{"$90,000,000,000.00", "($123.46)", "$0.00"}));
+    EXPECT_EQ(column(frmSales::kNet), (QStringList{"$93,600,000,000.00", "($128.40)", "$0.00"}));
+    EXPECT_EQ(frm.lblTotal[3].caption, FormatMoney(sums.gross - sums.discount));
+    // The associate written with trailing blanks is still "Crew Two".
+    frm.cboAssociates.SetListIndex(1);
+    frm.cmdSales_Click(frmSales::kLoadGrid);
+    EXPECT_EQ(column(frmSales::kTransaction), (QStringList{"Refund", "Small"}));
+}
+
+TEST_F(SalesScreen, AnAssociateNameTheJournalCannotHoldShowsNoSales) {
+    journal({sale("Qu Mark", "1", QDate(2026, 11, 2), "Crew ?", 10000, 0)});
+    open();
+    EXPECT_EQ(frm.fgSales.Rows(), 2);
+    frm.cboAssociates.SetListIndex(frm.cboAssociates.AddItem(QStringLiteral("Crew \u2603")));
+    frm.cmdSales_Click(frmSales::kLoadGrid);
+    EXPECT_EQ(frm.fgSales.Rows(), 1);
+    EXPECT_EQ(frm.lblTotal[0].caption, "$0.00");
+}

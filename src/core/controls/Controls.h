@@ -4,7 +4,9 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
 #include <map>
+#include <optional>
 
 namespace ostrel {
 
@@ -89,6 +91,11 @@ using ListBox = ListControl;
 using ComboBox = ListControl;
 
 // A grid of text cells: fixed rows and columns, the current cell, per-cell colours.
+//
+// Rows can also be given on demand (SetRowSource): a long list built from a file need not hold a text
+// per cell, only the way to make one. Such a row reads from its source until something writes to one
+// of its cells; then the row is stored like any other, with the source's texts, and the write
+// applies. Readers of TextMatrix see no difference.
 struct Grid : Control {
     int fixedRows = 1;
     int fixedCols = 1;
@@ -97,7 +104,9 @@ struct Grid : Control {
     int topRow = 1;
     QVector<int> colWidths; // twips; empty: the view decides
 
-    int Rows() const { return static_cast<int>(m_cells.size()); }
+    using RowText = std::function<QString(int row, int col)>;
+
+    int Rows() const { return m_source ? m_source->first + m_source->count : static_cast<int>(m_cells.size()); }
     int Cols() const { return m_cols; }
     void SetRows(int rows);
     void SetCols(int cols);
@@ -109,15 +118,34 @@ struct Grid : Control {
     void SetCellForeColor(int r, int c, const Colour& color);
     void Clear(); // every cell's text and colour
 
+    // The grid becomes `first + count` rows: those before `first` keep what they hold (blank when
+    // new), the `count` after them read their text from `text` (default colours). A later SetRows
+    // that shrinks keeps the rest on demand; one that adds rows, or SetCols, stores every row first.
+    void SetRowSource(int first, int count, RowText text);
+    bool HasRowSource() const { return m_source.has_value(); }
+
 private:
     struct Cell {
         QString text;
         Colour back = kNoColour;
         Colour fore = kNoColour;
     };
-    const Cell* cell(int r, int c) const;
+    struct Source {
+        int first = 0;
+        int count = 0;
+        RowText text; // empty: blank rows (after Clear)
+        std::map<int, QVector<Cell>> written;
+    };
+    bool onDemand(int r) const { return m_source && r >= m_source->first; }
+    void checkCell(int r, int c) const;
+    // The stored cell, or null for an on-demand row nothing has written to.
+    const Cell* storedCell(int r, int c) const;
     Cell& cellRef(int r, int c);
-    QVector<QVector<Cell>> m_cells;
+    static QVector<Cell> sourceRow(const Source& source, int r, int cols);
+    void storeEveryRow();
+    void resizeStored(int rows);
+    QVector<QVector<Cell>> m_cells; // every row, or with a source the rows before it
+    std::optional<Source> m_source;
     int m_cols = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "AssociateJournal.h"
 
+#include "store/Cp1252.h"
 #include "store/DiskRoutines.h"
 #include "store/Record.h"
 
@@ -9,14 +10,14 @@
 namespace ostrel {
 
 namespace {
-constexpr int kTransaction = 0;
-constexpr int kAccount = 30;
+constexpr int kTransaction = AssociateJournalRecord::kTransactionOffset;
+constexpr int kAccount = AssociateJournalRecord::kAccountOffset;
 constexpr int kDate = AssociateJournalRecord::kDateOffset;
-constexpr int kAssociate = 58;
-constexpr int kSubTotal = 83;
-constexpr int kTax = 91;
-constexpr int kDiscount = 99;
-constexpr int kGross = 107;
+constexpr int kAssociate = AssociateJournalRecord::kAssociateOffset;
+constexpr int kSubTotal = AssociateJournalRecord::kSubTotalOffset;
+constexpr int kTax = AssociateJournalRecord::kTaxOffset;
+constexpr int kDiscount = AssociateJournalRecord::kDiscountOffset;
+constexpr int kGross = AssociateJournalRecord::kGrossOffset;
 } // namespace
 
 Record AssociateJournalRecord::toRecord() const {
@@ -33,16 +34,58 @@ Record AssociateJournalRecord::toRecord() const {
 }
 
 AssociateJournalRecord AssociateJournalRecord::fromRecord(const Record& r) {
+    return AssociateJournalBytes(r.bytes()).record(0);
+}
+
+AssociateJournalBytes::AssociateJournalBytes(QByteArray bytes) : m_bytes(std::move(bytes)) {
+    constexpr int len = AssociateJournalRecord::kLength;
+    m_count = static_cast<qsizetype>(std::nearbyint(static_cast<double>(m_bytes.size()) / len));
+    if (m_bytes.size() < m_count * len) m_bytes.resize(m_count * len, '\0');
+}
+
+AssociateJournalRecord AssociateJournalBytes::record(qsizetype i) const {
     AssociateJournalRecord j;
-    j.Transaction = r.text(kTransaction, kTransactionWidth);
-    j.Account = r.text(kAccount, kAccountWidth);
-    j.JournalDate = DayOf(r.float64(kDate));
-    j.Associate = r.text(kAssociate, kAssociateWidth);
-    j.SubTotal = Money::fromTenThousandths(r.currency(kSubTotal));
-    j.Tax = Money::fromTenThousandths(r.currency(kTax));
-    j.Discount = Money::fromTenThousandths(r.currency(kDiscount));
-    j.Gross = Money::fromTenThousandths(r.currency(kGross));
+    j.Transaction = transaction(i);
+    j.Account = account(i);
+    j.JournalDate = journalDate(i);
+    j.Associate = cp1252::decode(QByteArrayView(at(i) + kAssociate, AssociateJournalRecord::kAssociateWidth));
+    j.SubTotal = subTotal(i);
+    j.Tax = tax(i);
+    j.Discount = discount(i);
+    j.Gross = gross(i);
     return j;
+}
+
+QVector<AssociateJournalRecord> AssociateJournalBytes::records() const {
+    QVector<AssociateJournalRecord> out;
+    out.reserve(m_count);
+    for (qsizetype i = 0; i < m_count; ++i) out.append(record(i));
+    return out;
+}
+
+QString AssociateJournalBytes::transaction(qsizetype i) const {
+    return cp1252::decode(QByteArrayView(at(i) + kTransaction, AssociateJournalRecord::kTransactionWidth));
+}
+
+QString AssociateJournalBytes::account(qsizetype i) const {
+    return cp1252::decode(QByteArrayView(at(i) + kAccount, AssociateJournalRecord::kAccountWidth));
+}
+
+std::optional<QByteArray> AssociateJournalBytes::AssociateKey(const QString& name) {
+    // Each byte of the code page reads as one character of its own, so a name matches a field's
+    // bytes exactly when it matches their text.
+    QByteArray key = cp1252::encode(name);
+    if (cp1252::decode(key) != name) return std::nullopt;
+    return key;
+}
+
+bool AssociateJournalBytes::associateIs(qsizetype i, const QByteArray& key) const {
+    const char* field = at(i) + kAssociate;
+    qsizetype from = 0;
+    qsizetype to = AssociateJournalRecord::kAssociateWidth;
+    while (from < to && field[from] == ' ') ++from;
+    while (to > from && field[to - 1] == ' ') --to;
+    return to - from == key.size() && std::memcmp(field + from, key.constData(), static_cast<size_t>(key.size())) == 0;
 }
 
 void AddJournalRecord(DiskRoutines& disk, const AssociateJournalRecord& record) {
@@ -52,26 +95,16 @@ void AddJournalRecord(DiskRoutines& disk, const AssociateJournalRecord& record) 
 }
 
 QVector<AssociateJournalRecord> AssociateJournalFromBytes(const QByteArray& bytes) {
-    constexpr int len = AssociateJournalRecord::kLength;
-    // The count as the record files count: a last record at least half there counts, its missing
-    // bytes read as zeros.
-    const auto count = static_cast<qsizetype>(std::nearbyint(static_cast<double>(bytes.size()) / len));
-    QVector<AssociateJournalRecord> out;
-    out.reserve(count);
-    Record r(len);
-    for (qsizetype i = 0; i < count; ++i) {
-        const qsizetype offset = i * len;
-        const qsizetype n = std::min<qsizetype>(len, bytes.size() - offset);
-        std::memset(r.bytes().data(), 0, len);
-        std::memcpy(r.bytes().data(), bytes.constData() + offset, static_cast<size_t>(n));
-        out.append(AssociateJournalRecord::fromRecord(r));
-    }
-    return out;
+    return AssociateJournalBytes(bytes).records();
+}
+
+AssociateJournalBytes ReadAssociateJournalBytes(DiskRoutines& disk) {
+    if (!disk.FileExists(AssociateJournalRecord::kFileName)) return {};
+    return AssociateJournalBytes(disk.ReadTextFile(AssociateJournalRecord::kFileName).bytes());
 }
 
 QVector<AssociateJournalRecord> ReadAssociateJournal(DiskRoutines& disk) {
-    if (!disk.FileExists(AssociateJournalRecord::kFileName)) return {};
-    return AssociateJournalFromBytes(disk.ReadTextFile(AssociateJournalRecord::kFileName).bytes());
+    return ReadAssociateJournalBytes(disk).records();
 }
 
 } // namespace ostrel

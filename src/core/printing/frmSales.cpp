@@ -5,6 +5,10 @@
 #include "util/VbText.h"
 #include "store/LocaleText.h"
 
+#include <memory>
+#include <optional>
+#include <vector>
+
 namespace ostrel {
 
 frmSales::frmSales(Session& session)
@@ -126,32 +130,50 @@ void frmSales::cmdSales_Click(int index) {
     }
 }
 
+namespace {
+
+// The text of one sale's cell, as the report's rows show it.
+QString saleCell(const AssociateJournalBytes& journal, qsizetype i, int column) {
+    switch (column) {
+    case frmSales::kTransaction: return vbTrim(journal.transaction(i));
+    case frmSales::kDate: return ShortDateText(journal.journalDate(i));
+    case frmSales::kAccount: return vbTrim(journal.account(i));
+    case frmSales::kSubTotal: return FormatMoney(journal.subTotal(i));
+    case frmSales::kDiscount: return FormatMoney(journal.discount(i));
+    case frmSales::kTax: return FormatMoney(journal.tax(i));
+    case frmSales::kNet: return FormatMoney(journal.gross(i) - journal.discount(i));
+    default: return {};
+    }
+}
+
+} // namespace
+
 void frmSales::LoadGrid() {
-    const QVector<AssociateJournalRecord> records = ReadAssociateJournal(m_session.disk);
-    fgSales.SetRows(static_cast<int>(records.size()) + 1);
+    // A long journal is scanned on its bytes; a row's texts are made when something reads them.
+    auto journal = std::make_shared<const AssociateJournalBytes>(ReadAssociateJournalBytes(m_session.disk));
+    auto sales = std::make_shared<std::vector<qsizetype>>();
     m_totals = Totals{};
     // The first entry of the list stands for every associate.
     const bool filtered = cboAssociates.listIndex > 0;
-    const QString associate = vbTrim(cboAssociates.text);
-    int row = 1;
-    for (const AssociateJournalRecord& r : records) {
-        if (r.JournalDate < m_start || r.JournalDate > m_end) continue;
-        if (filtered && vbTrim(r.Associate) != associate) continue;
-        fgSales.SetTextMatrix(row, kTransaction, vbTrim(r.Transaction));
-        fgSales.SetTextMatrix(row, kDate, ShortDateText(r.JournalDate));
-        fgSales.SetTextMatrix(row, kAccount, vbTrim(r.Account));
-        fgSales.SetTextMatrix(row, kSubTotal, FormatMoney(r.SubTotal));
-        fgSales.SetTextMatrix(row, kDiscount, FormatMoney(r.Discount));
-        fgSales.SetTextMatrix(row, kTax, FormatMoney(r.Tax));
-        fgSales.SetTextMatrix(row, kNet, FormatMoney(r.Gross - r.Discount));
-        m_totals.discount += r.Discount;
-        m_totals.tax += r.Tax;
-        m_totals.subTotal += r.SubTotal;
-        m_totals.gross += r.Gross;
-        ++row;
+    const std::optional<QByteArray> associate =
+        filtered ? AssociateJournalBytes::AssociateKey(vbTrim(cboAssociates.text)) : std::nullopt;
+    if (!filtered || associate) {
+        for (qsizetype i = 0; i < journal->count(); ++i) {
+            const QDate date = journal->journalDate(i);
+            if (date < m_start || date > m_end) continue;
+            if (filtered && !journal->associateIs(i, *associate)) continue;
+            sales->push_back(i);
+            m_totals.discount += journal->discount(i);
+            m_totals.tax += journal->tax(i);
+            m_totals.subTotal += journal->subTotal(i);
+            m_totals.gross += journal->gross(i);
+        }
     }
-    fgSales.SetRows(row);
-    fgSales.row = row > 1 ? 1 : 0;
+    const int rows = static_cast<int>(sales->size());
+    fgSales.SetRowSource(1, rows, [journal, sales](int r, int c) {
+        return saleCell(*journal, (*sales)[static_cast<size_t>(r - 1)], c);
+    });
+    fgSales.row = rows > 0 ? 1 : 0;
     fgSales.topRow = 1;
     lblTotal[0].caption = FormatMoney(m_totals.subTotal);
     lblTotal[1].caption = FormatMoney(m_totals.discount);
