@@ -30,9 +30,8 @@ bool listedBy(int routine, const AppointmentSlip& slip, const QDate& today) {
 QStringList frmAppointments::listSlipFiles() {
     QStringList files;
     // One read of the folder gives each entry's kind, without a look-up per file.
-    for (const DataRoot::Listed& e : m_session.root.entries(kAppointmentsFolder))
-        if (e.kind == DataRoot::Kind::File && e.name.endsWith(QStringLiteral(".txt"), Qt::CaseInsensitive))
-            files.append(e.name);
+    for (const QString& name : m_session.root.fileNames(kAppointmentsFolder))
+        if (name.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) files.append(name);
     SortIgnoringCase(files);
     return files;
 }

@@ -31,9 +31,9 @@ QString decode(QByteArrayView bytes) {
     if (latin1) return QString::fromLatin1(bytes);
     QString out(bytes.size(), Qt::Uninitialized);
     QChar* dst = out.data();
-    for (qsizetype i = 0; i < bytes.size(); ++i) {
-        const auto b = static_cast<unsigned char>(bytes[i]);
-        dst[i] = (b >= 0x80 && b < 0xA0) ? QChar(kHighControls[b - 0x80]) : QChar(b);
+    for (qsizetype k = 0; k < size; ++k) {
+        const unsigned char b = data[k];
+        dst[k] = (b >= 0x80 && b < 0xA0) ? QChar(kHighControls[b - 0x80]) : QChar(b);
     }
     return out;
 }

@@ -180,28 +180,50 @@ QStringList DataRoot::list(const QString& name) const {
 
 namespace ostrel {
 
+namespace {
+
+// Each entry of a directory but "." and "..", with its kind; symbolic links are followed.
+template <typename Visit> bool forEachEntry(const QString& path, Visit visit) {
+    DIR* d = ::opendir(QFile::encodeName(path).constData());
+    if (!d) return false;
+    while (dirent* de = ::readdir(d)) {
+        const char* raw = de->d_name;
+        if (raw[0] == '.' && (raw[1] == 0 || (raw[1] == '.' && raw[2] == 0))) continue;
+        const QString n = QFile::decodeName(raw);
+        DataRoot::Kind kind = DataRoot::Kind::Other;
+        switch (de->d_type) {
+        case DT_REG: kind = DataRoot::Kind::File; break;
+        case DT_DIR: kind = DataRoot::Kind::Directory; break;
+        case DT_UNKNOWN:
+        case DT_LNK: kind = statPath(path + u'/' + n).kind; break;
+        default: break;
+        }
+        visit(n, kind);
+    }
+    ::closedir(d);
+    return true;
+}
+
+} // namespace
+
 QHash<QString, DataRoot::Listed> DataRoot::entries(const QString& name) const {
     QHash<QString, Listed> out;
     const Entry e = resolve(name);
     if (!e.isDirectory()) return out;
-    const QByteArray native = QFile::encodeName(e.path);
-    DIR* d = ::opendir(native.constData());
-    if (!d) return out;
-    while (dirent* de = ::readdir(d)) {
-        const QString n = QFile::decodeName(de->d_name);
-        if (n == u"." || n == u"..") continue;
-        Kind kind = Kind::Other;
-        switch (de->d_type) {
-        case DT_REG: kind = Kind::File; break;
-        case DT_DIR: kind = Kind::Directory; break;
-        case DT_UNKNOWN:
-        case DT_LNK: kind = statPath(e.path + u'/' + n).kind; break;
-        default: break;
-        }
+    forEachEntry(e.path, [&](const QString& n, Kind kind) {
         const QString folded = n.toCaseFolded();
         if (!out.contains(folded)) out.insert(folded, Listed{n, kind});
-    }
-    ::closedir(d);
+    });
+    return out;
+}
+
+QStringList DataRoot::fileNames(const QString& name) const {
+    QStringList out;
+    const Entry e = resolve(name);
+    if (!e.isDirectory()) return out;
+    forEachEntry(e.path, [&](const QString& n, Kind kind) {
+        if (kind == Kind::File) out.append(n);
+    });
     return out;
 }
 

@@ -59,6 +59,9 @@ public:
         Kind kind = Kind::Missing;
     };
     QHash<QString, Listed> entries(const QString& name) const;
+    // The names of the files (not folders) in a directory, as on disk, in no set order: one read
+    // of the directory for callers that only list its files.
+    QStringList fileNames(const QString& name) const;
 
 private:
     struct Listing;
