@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -53,6 +54,15 @@ public:
         Kind kind = Kind::Missing;
     };
     QHash<QString, Listed> entries(const QString& name) const;
+
+    // The files of a directory (no folders), sorted by name as list() sorts, each with its full
+    // path: one read of the directory and no look-up per file, for callers that read every file
+    // of a large one.
+    struct ListedFile {
+        QString name;
+        QString path;
+    };
+    QVector<ListedFile> files(const QString& name) const;
 
 private:
     struct Listing;

@@ -86,7 +86,11 @@ RandomFile& DiskRoutines::Random(int n) {
 TextReader DiskRoutines::ReadTextFile(const QString& name) {
     const DataRoot::Entry e = m_root.resolve(name);
     if (!e.isFile()) throw StoreError(name, QStringLiteral("File not found."));
-    QFile f(e.path);
+    return ReadTextFileAt(e.path, name);
+}
+
+TextReader DiskRoutines::ReadTextFileAt(const QString& path, const QString& name) {
+    QFile f(path);
     if (!f.open(QIODevice::ReadOnly))
         throw StoreError(name, QStringLiteral("The file cannot be opened: ") + f.errorString());
     return TextReader(f.readAll(), name);

@@ -81,6 +81,9 @@ public:
     void PutRecords(const QString& name, int recordLength, qint64 firstRecord, const QByteArray& records);
     // The whole file for the field and line reads; throws when it is absent.
     TextReader ReadTextFile(const QString& name);
+    // The same for a file whose path a directory listing gave (DataRoot::files): no look-up of
+    // the name; `name` is the data name messages give.
+    TextReader ReadTextFileAt(const QString& path, const QString& name);
 
     // A file found damaged when it was read. The owner is told once a run (through the report
     // hook), and nothing writes over the file or deletes it in this run unless the owner, asked
