@@ -62,3 +62,16 @@ TEST(DataRoot, ManyMissesInALargeFolderStayFast) {
     EXPECT_EQ(t.root().list("/AuxFiles").size(), 2000);
     EXPECT_FALSE(t.root().resolve(QStringLiteral("/AUXFILES/1999")).path.contains("AUXFILES"));
 }
+
+TEST(DataRoot, ANameMissingAsSpelledIsStillFoundUnderTheDisksSpelling) {
+    TestDataRoot t;
+    t.writeBytes("/AuxFiles/Data.txt", "x");
+    const auto found = t.root().resolveNotAsSpelled(QStringLiteral("/auxfiles/DATA.TXT"));
+    EXPECT_TRUE(found.isFile());
+    EXPECT_EQ(found.path, t.full("/AuxFiles/Data.txt"));
+    const auto missing = t.root().resolveNotAsSpelled(QStringLiteral("/auxfiles/Other.txt"));
+    EXPECT_FALSE(missing.exists());
+    EXPECT_EQ(missing.path, t.full("/AuxFiles/Other.txt"));
+    EXPECT_EQ(t.root().spelledPath(QStringLiteral("\\auxfiles\\./Other.txt")), t.full("/auxfiles/Other.txt"));
+    EXPECT_THROW(t.root().spelledPath(QStringLiteral("/AuxFiles/../../x")), StoreError);
+}

@@ -43,6 +43,13 @@ TEST(DaySchedulePath, JoinsYearPointOfServiceAndDayWithoutPadding) {
     EXPECT_EQ(QDate(2026, 2, 9).dayOfYear(), 40);
 }
 
+TEST(DaySchedulePath, AYearFolderHasAtLeastFourDigits) {
+    EXPECT_EQ(yearDirectory(999), "/0999");
+    EXPECT_EQ(yearDirectory(7), "/0007");
+    EXPECT_EQ(yearDirectory(12345), "/12345");
+    EXPECT_EQ(daySchedulePath(999, 10, 1), "/0999/DaySchedules10/1.txt");
+}
+
 TEST(EnsureDayScheduleDirectories, MakesOneFolderPerPointOfServiceForTheDatesYear) {
     TestDataRoot t;
     t.makeDir("/2026");

@@ -1,6 +1,8 @@
 #include "TestDataRoot.h"
 #include "store/StoreError.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 using namespace ostrel;
@@ -270,4 +272,49 @@ TEST(RandomFile, OpeningCreatesAnAbsentFile) {
     t.disk().CloseAllFiles();
     EXPECT_TRUE(t.isFile("/CustomerData.txt"));
     EXPECT_EQ(t.readBytes("/CustomerData.txt").size(), 0);
+}
+
+TEST(ReadTextFileIfPresent, GivesNothingForAnAbsentFileOrAFolderAndChangesNothing) {
+    TestDataRoot t;
+    t.makeDir("/Holidays.txt.d");
+    t.makeDir("/Folder");
+    EXPECT_FALSE(t.disk().ReadTextFileIfPresent("/Holidays.txt").has_value());
+    EXPECT_FALSE(t.disk().ReadTextFileIfPresent("/Folder").has_value());
+    EXPECT_THROW(t.disk().ReadTextFile("/Folder"), StoreError);
+    EXPECT_EQ(t.root().list("/").size(), 2);
+}
+
+TEST(ReadTextFileIfPresent, ReadsAFileWhateverTheCaseAndRestoresOneFromItsBackupCopy) {
+    TestDataRoot t;
+    t.writeBytes("/AuxFiles/Notes.txt", "\"first\"\r\n");
+    const std::optional<TextReader> notes = t.disk().ReadTextFileIfPresent("/auxfiles\\NOTES.TXT");
+    ASSERT_TRUE(notes.has_value());
+    EXPECT_EQ(notes->bytes(), QByteArray("\"first\"\r\n"));
+    EXPECT_EQ(notes->fileName(), "/auxfiles\\NOTES.TXT");
+    t.writeBytes("/Backup/Holidays.txt", "#2026-12-25#\r\n");
+    const std::optional<TextReader> holidays = t.disk().ReadTextFileIfPresent("/Holidays.txt");
+    ASSERT_TRUE(holidays.has_value());
+    EXPECT_EQ(holidays->bytes(), QByteArray("#2026-12-25#\r\n"));
+    EXPECT_EQ(t.readBytes("/Holidays.txt"), QByteArray("#2026-12-25#\r\n"));
+}
+
+TEST(ReadTextFile, AnEmptyFileReadsAsNoBytes) {
+    TestDataRoot t;
+    t.writeBytes("/Empty.txt", "");
+    EXPECT_TRUE(t.disk().ReadTextFile("/Empty.txt").bytes().isEmpty());
+    EXPECT_TRUE(t.disk().ReadTextFileIfPresent("/Empty.txt").has_value());
+}
+
+TEST(ReadTextFile, AFileThatCannotBeOpenedIsNamedInTheError) {
+    TestDataRoot t;
+    t.writeBytes("/Locked.txt", "x");
+    QFile::setPermissions(t.full("/Locked.txt"), QFileDevice::Permissions{});
+    if (QFile(t.full("/Locked.txt")).open(QIODevice::ReadOnly)) GTEST_SKIP() << "permissions do not bind this user";
+    try {
+        t.disk().ReadTextFile("/Locked.txt");
+        FAIL() << "an unreadable file was read";
+    } catch (const StoreError& e) {
+        EXPECT_EQ(e.file(), "/Locked.txt");
+        EXPECT_TRUE(e.problem().startsWith("The file cannot be opened")) << e.problem().toStdString();
+    }
 }

@@ -164,7 +164,7 @@ struct EarlyClickRun {
 
 TEST(StartupClicks, ClicksDuringASlowProbeLeadToTheMenuOrSetupAfterwardsAndClosingTheMenuEndsTheRun) {
     for (const bool setupFiles : {true, false}) {
-        for (const QByteArray clicks : {QByteArray("C"), QByteArray("S"), QByteArray("L"), QByteArray("CS"),
+        for (const QByteArray& clicks : {QByteArray("C"), QByteArray("S"), QByteArray("L"), QByteArray("CS"),
                                         QByteArray("SCC"), QByteArray("LSC")}) {
             SCOPED_TRACE(QStringLiteral("setup files %1, clicks %2").arg(setupFiles).arg(QString::fromLatin1(clicks))
                              .toStdString());

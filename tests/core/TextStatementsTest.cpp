@@ -169,3 +169,25 @@ TEST(FieldRead, ReadsWindows1252) {
     TextReader r(QByteArray("\"Ren\xE9" "e \x93ok\x94\"\r\n"), "/x");
     EXPECT_EQ(r.readString(), QString::fromUtf8("Renée “ok”"));
 }
+
+TEST(FieldRead, AStringReadGivesTheTextAFieldReadGivesOnEveryKindOfField) {
+    const QByteArray file = "\"plain\",  \"blanks before\",bare text,\"after\"the quote,\"\",,"
+                            "\"caf\xE9 \x80 long enough to pass eight bytes\",\"unterminated";
+    TextReader byField(file, QStringLiteral("/Fields.txt"));
+    TextReader byString(file, QStringLiteral("/Fields.txt"));
+    QStringList read;
+    while (!byField.atEnd()) {
+        const QString expected = byField.readField().toString();
+        EXPECT_EQ(byString.readString(), expected);
+        read << expected;
+    }
+    EXPECT_TRUE(byString.atEnd());
+    EXPECT_EQ(read, (QStringList{"plain", "blanks before", "bare text", "after", "", "",
+                                 QString::fromUtf8("caf\u00E9 \u20AC long enough to pass eight bytes"), "unterminated"}));
+    EXPECT_THROW(byString.readString(), StoreError);
+}
+
+TEST(FieldRead, AHighControlByteFarIntoALongStringStillReadsAsItsCharacter) {
+    TextReader r(QByteArray("\"0123456789abcdef\x93quoted\x94 and \xA3 sign\"\r\n"), QStringLiteral("/Long.txt"));
+    EXPECT_EQ(r.readString(), QString::fromUtf8("0123456789abcdef\u201Cquoted\u201D and \u00A3 sign"));
+}

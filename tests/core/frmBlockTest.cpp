@@ -3,6 +3,9 @@
 #include "scheduling/SlotFit.h"
 #include "shell/frmStartup.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 using namespace ostrel;
 using ostrel::test::BlockScreen;
 
@@ -106,6 +109,26 @@ TEST_F(BlockScreen, AllAssignmentsReservesEveryPointOfServiceAndAsksOnlyWhereAFi
         EXPECT_EQ(t.readBytes(dayFile(friday, n)), reservedBytes("Holiday"));
         EXPECT_EQ(t.readBytes(dayFile(QDate(2026, 11, 30), n)), reservedBytes("Holiday"));
     }
+}
+
+TEST_F(BlockScreen, TheDaysReservedBeforeAConflictQuestionAreOnDiskWhileItWaits) {
+    writeDay(friday, 3, appointmentDay());
+    choose(friday, 3, 1);
+    fake.dialogs.expect("Action Selection", acceptQuestion(kReserve, 1, friday, "All Assignments"), vbYes);
+    fake.dialogs.expect("Verify Change", conflictQuestion(friday), vbYes);
+    QStringList seenWhileAsked;
+    fake.dialogs.whenShown = [&](const test::ScriptedDialogs::Box& box) {
+        if (box.title != QLatin1String("Verify Change")) return;
+        for (int n = 1; n <= 2; ++n)
+            if (t.readBytes(dayFile(friday, n)) == reservedBytes("Vacation")) seenWhileAsked << QString::number(n);
+        if (QFileInfo(t.full(dayFile(friday, 1))).absoluteDir().entryList(QDir::Files).size() != 1)
+            seenWhileAsked << QStringLiteral("a temporary");
+    };
+    frm.cmdAccept_Click();
+    fake.dialogs.verify();
+    EXPECT_EQ(seenWhileAsked, (QStringList{"1", "2"}));
+    for (int n = 1; n <= 3; ++n)
+        EXPECT_EQ(t.readBytes(dayFile(friday, n)), reservedBytes("Vacation"));
 }
 
 TEST_F(BlockScreen, AnsweringNoForOneDayKeepsThatDayAndGoesOnWithTheNext) {

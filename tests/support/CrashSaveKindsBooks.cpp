@@ -16,6 +16,7 @@
 #include "scheduling/AppointmentSlip.h"
 #include "scheduling/DayScheduleStore.h"
 #include "scheduling/TimeGrid.h"
+#include "scheduling/frmBlock.h"
 #include "setup/frmSetup.h"
 #include "shell/Session.h"
 #include "shell/frmStartup.h"
@@ -153,6 +154,31 @@ struct InvoiceRoutine {
     }
 };
 
+// The blocking screen on the data folder of `disk`: both questions answered Yes; any other box is a
+// failed save reported, and the routine stops there.
+class BlockDialogs : public RoutineDialogs {
+protected:
+    MsgBoxResult showMsgBox(const MsgBoxRequest& r) override {
+        if (r.title == QLatin1String("Action Selection") || r.title == QLatin1String("Verify Change")) return vbYes;
+        return RoutineDialogs::showMsgBox(r);
+    }
+};
+
+struct BlockRoutine {
+    test::FakePlatform fake;
+    BlockDialogs dialogs;
+    Platform platform{dialogs, fake.clock, fake.instance, fake.browser, fake.app, fake.serial, fake.printDialogs};
+    Session session;
+    frmBlock& frm;
+
+    explicit BlockRoutine(DiskRoutines& disk)
+        : fake(disk.root().root()), session(disk.root().root(), platform),
+          frm(session.AddScreen(ScreenId::frmBlock, std::make_unique<frmBlock>(session))) {
+        session.RegisterScreen(ScreenId::frmStartup, session.startup());
+        session.LoadServiceAreas();
+    }
+};
+
 } // namespace
 
 SaveKind InvoicePostingKind() {
@@ -242,25 +268,36 @@ SaveKind BlockedDaysKind() {
     SaveKind k;
     k.name = QStringLiteral("blocked days");
     k.prepare = [](DiskRoutines& disk) {
+        TextWriter areas;
+        areas.write({QStringLiteral("Crew One")});
+        areas.write({QStringLiteral("Crew Two")});
+        disk.ReplaceTextFile(QStringLiteral("/ServiceAreas.txt"), areas);
         EnsureDayScheduleDirectories(disk, QDate(2026, 11, 20), 2);
-        for (int day = 330; day <= 336; ++day) {
+        for (int day = 330; day <= 338; ++day) {
             DaySchedule d;
             for (int row = 1; row <= 48; row += 6)
                 d.setSlot(row, QStringLiteral("Booked %1 on %2").arg(row).arg(day));
             writeDaySchedule(disk, 2026, 1, day, d);
+            if (day % 2 == 0 && day < 338) writeDaySchedule(disk, 2026, 2, day, d);
         }
     };
     k.save = [](DiskRoutines& disk) {
-        // A run of days blocked with a reason in every slot, as the blocking screen saves its grid,
-        // then one day unblocked by deleting its file.
-        for (int day = 330; day <= 335; ++day) {
-            Grid grid;
-            loadDaySchedule(disk, 2026, 1, day, grid);
-            for (int r = kFirstTimeSlot; r <= kLastTimeSlot; ++r)
-                grid.SetTextMatrix(r, kSlotTextColumn, QStringLiteral("Holiday"));
-            saveDaySchedule(disk, 2026, 1, day, grid);
+        // Six work days from Thursday 26 November (to Thursday 3 December) reserved for all Points
+        // of Service through the blocking screen (its batch of day files, each booked day asked
+        // about and cleared), then the Friday after given back.
+        BlockRoutine r(disk);
+        try {
+            r.frm.Show();
+            r.frm.Calender.value = QDate(2026, 11, 26);
+            r.frm.Calender_DateClick();
+            r.frm.lstAssignto.SetListIndex(2);
+            r.frm.sldTimeReq.SetValue(6);
+            r.frm.sldTimeReq_Change();
+            r.frm.cmdAccept_Click();
+        } catch (const RoutineStopped& stopped) {
+            throw StoreError(QStringLiteral("blocked days"), stopped.said);
         }
-        disk.DeleteDataFile(daySchedulePath(2026, 1, 336));
+        disk.DeleteDataFile(daySchedulePath(2026, 1, 338));
     };
     return k;
 }

@@ -20,6 +20,7 @@ public:
         return fail(Kind::Write) ? -1 : FileOps::pwrite(fd, data, size, offset);
     }
     int fsync(int fd) override { return fail(Kind::Fsync) ? -1 : FileOps::fsync(fd); }
+    int syncfs(int fd) override { return fail(Kind::Fsync) ? -1 : FileOps::syncfs(fd); }
     int rename(const QByteArray& from, const QByteArray& to) override {
         return fail(Kind::Rename) ? -1 : FileOps::rename(from, to);
     }

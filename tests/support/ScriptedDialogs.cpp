@@ -57,6 +57,7 @@ ScriptedDialogs& ScriptedDialogs::expect(const QString& title, const QString& pr
 
 MsgBoxResult ScriptedDialogs::showMsgBox(const MsgBoxRequest& request) {
     Box box{request.prompt, request.title, request.style, MsgBoxDefaultAnswer(request.style)};
+    if (whenShown) whenShown(box);
     if (m_expected.empty()) {
         // Nobody said what to press: Enter takes the default button, and the box awaits EXPECT_BOX.
         m_unchecked.push_back(box);

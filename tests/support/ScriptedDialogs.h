@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 
 namespace ostrel::test {
@@ -82,6 +83,9 @@ public:
     const QVector<InputRequest>& inputRequests() const { return m_inputRequests; }
 
     static QString describe(const Box& box);
+
+    // Runs as each box comes up, before it is answered: a test looks at what stands at that moment.
+    std::function<void(const Box&)> whenShown;
 
 protected:
     MsgBoxResult showMsgBox(const MsgBoxRequest& request) override;

@@ -4,17 +4,27 @@
 
 namespace ostrel {
 
+// Names are put together piece by piece: every day file shown or searched comes through here.
 QString yearDirectory(int year) {
-    return QStringLiteral("/%1").arg(year, 4, 10, QLatin1Char('0'));
+    if (year < 0) return QStringLiteral("/%1").arg(year, 4, 10, QLatin1Char('0'));
+    QString name(1, u'/');
+    const QString digits = QString::number(year);
+    if (digits.size() < 4) name += QString(4 - digits.size(), u'0');
+    return name += digits;
 }
 
 QString dayScheduleDirectory(int year, int pointOfService) {
-    return yearDirectory(year) + QStringLiteral("/DaySchedules") + QString::number(pointOfService);
+    QString name = yearDirectory(year);
+    name.reserve(name.size() + 24);
+    name += u"/DaySchedules";
+    return name += QString::number(pointOfService);
 }
 
 QString daySchedulePath(int year, int pointOfService, int dayOfYear) {
-    return dayScheduleDirectory(year, pointOfService) + u'/' + QString::number(dayOfYear) +
-           QStringLiteral(".txt");
+    QString name = dayScheduleDirectory(year, pointOfService);
+    name += u'/';
+    name += QString::number(dayOfYear);
+    return name += u".txt";
 }
 
 void EnsureDayScheduleDirectories(DiskRoutines& disk, const QDate& date, int pointOfServiceCount) {
@@ -31,10 +41,7 @@ bool dayScheduleExists(DiskRoutines& disk, int year, int pointOfService, int day
 DaySchedule readDaySchedule(DiskRoutines& disk, int year, int pointOfService, int dayOfYear) {
     const QString name = daySchedulePath(year, pointOfService, dayOfYear);
     DaySchedule day;
-    if (disk.FileExists(name)) {
-        TextReader reader = disk.ReadTextFile(name);
-        day = DaySchedule::fromStatements(reader);
-    }
+    if (std::optional<TextReader> reader = disk.ReadTextFileIfPresent(name)) day = DaySchedule::fromStatements(*reader);
     disk.CloseAllFiles();
     return day;
 }

@@ -54,9 +54,9 @@ QDate SkipToWorkDay(const QDate& date, int workWeekCode) {
 
 QDate SkipHolidays(DiskRoutines& disk, const QDate& date, int workWeekCode) {
     QDate d = date;
-    if (disk.FileExists(kHolidaysFile)) {
+    if (const std::optional<TextReader> holidays = disk.ReadTextFileIfPresent(kHolidaysFile)) {
         // Read once; each candidate day is looked for from the top of the list again.
-        const QByteArray bytes = disk.ReadTextFile(kHolidaysFile).bytes();
+        const QByteArray& bytes = holidays->bytes();
         while (listedAsHoliday(bytes, d))
             d = d.addDays(1);
     }

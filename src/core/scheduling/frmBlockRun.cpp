@@ -4,6 +4,7 @@
 #include "TimeGrid.h"
 #include "WorkDays.h"
 #include "shell/Session.h"
+#include "store/SafeReplace.h"
 #include "util/VbText.h"
 
 namespace ostrel {
@@ -21,15 +22,18 @@ void frmBlock::cmdAccept_Click() {
         cmdCancel_Click();
         return;
     }
+    // A month of days for every Point of Service is hundreds of day files: they are saved as one
+    // batch, each file still replaced in one step.
+    ReplaceBatch batch;
     const int all = m_session.pointOfServiceNames.UpperBound();
     if (lstAssignto.listIndex == all) {
         FindAllTeams();
-        return;
+    } else if (lstAssignto.listIndex >= 0) { // else nothing to act on: no Point of Service is set up
+        setBusy(true);
+        m_session.Guarded([&] { FindTeam(QString::number(lstAssignto.listIndex + 1)); });
+        setBusy(false);
     }
-    if (lstAssignto.listIndex < 0) return; // nothing to act on: no Point of Service is set up
-    setBusy(true);
-    m_session.Guarded([&] { FindTeam(QString::number(lstAssignto.listIndex + 1)); });
-    setBusy(false);
+    m_session.Guarded([&] { batch.commit(); });
 }
 
 void frmBlock::FindAllTeams() {
@@ -57,6 +61,8 @@ void frmBlock::FindTeam(const QString& team) {
         const int dayOfYear = day.dayOfYear();
         bool act = true;
         if (dayScheduleExists(m_session.disk, year, pointOfService, dayOfYear)) {
+            // What is done so far is on disk before the program waits on the owner.
+            if (ReplaceBatch* batch = ReplaceBatch::current()) batch->commit();
             fraSchedule.visible = true;
             loadDaySchedule(m_session.disk, year, pointOfService, dayOfYear, fgDaySchedule);
             const QString question = QStringLiteral("Events are Scheduled for ") + vbDate(day) + u'\n' +

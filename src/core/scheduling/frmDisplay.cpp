@@ -113,32 +113,28 @@ void frmDisplay::DateCheck() {
     DTPicker1.value = SkipToWorkDay(DTPicker1.value, week);
     // The holiday test runs, but its date is not taken: a holiday stays on show.
     m_session.Guarded([&] { (void)SkipHolidays(m_session.disk, DTPicker1.value, week); });
-    for (auto& [k, g] : fgHours)
-        ClearDaySchedule(g);
-    ShowDay();
+    ShowDay(); // clears every slot row as it goes
 }
 
 void frmDisplay::ShowDay() {
-    for (auto& [k, g] : fgHours)
-        for (int r = 1; r <= kLastTimeSlot; ++r)
-            g.SetTextMatrix(r, kSlotTextColumn, QString());
     const int day = DTPicker1.value.dayOfYear();
-    for (int n = HighNumber - (kGrids - 1); n <= HighNumber; ++n) {
-        if (n > m_names.size()) break;
-        // A day without a file is an empty day, never the last one read.
-        DaySlots.fill(QString());
-        m_session.Guarded([&] {
-            const DaySchedule d = readDaySchedule(m_session.disk, PathYear, n, day);
-            for (int r = 1; r <= kLastTimeSlot; ++r)
-                DaySlots[r] = d.slot(r);
-        });
-        int grid = n;
-        while (grid >= 5)
-            grid -= kGrids;
-        // Entry r goes to row r: row 0 takes the always empty entry 0, and line 48 has no row.
-        Grid& g = fgHours[grid];
-        for (int r = 0; r <= 47; ++r)
-            g.SetTextMatrix(r, kSlotTextColumn, DaySlots[r]);
+    // Grid k shows the k-th Point of Service of the group; a grid with none is cleared.
+    for (int k = 1; k <= kGrids; ++k) {
+        Grid& g = fgHours[k];
+        const int n = HighNumber - kGrids + k;
+        if (n > m_names.size()) {
+            for (int r = kFirstTimeSlot; r <= kLastTimeSlot; ++r)
+                g.SetTextMatrix(r, kSlotTextColumn, QString());
+            continue;
+        }
+        // A day without a file, or one that cannot be read, is an empty day, never the last one read.
+        DaySchedule d;
+        m_session.Guarded([&] { d = readDaySchedule(m_session.disk, PathYear, n, day); });
+        // Line r goes to row r: row 0 stays empty, and line 48 has no row.
+        g.SetTextMatrix(0, kSlotTextColumn, QString());
+        for (int r = kFirstTimeSlot; r < kLastTimeSlot; ++r)
+            g.SetTextMatrix(r, kSlotTextColumn, d.slot(r));
+        g.SetTextMatrix(kLastTimeSlot, kSlotTextColumn, QString());
     }
 }
 

@@ -49,8 +49,6 @@ public:
     int PathYear = 0;
     // The highest Point of Service number of the group on show.
     int HighNumber = 4;
-    // The 49 lines of the day in hand; entry 0 is always empty.
-    std::array<QString, 49> DaySlots;
 
 private:
     void DateCheck();

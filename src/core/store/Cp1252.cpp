@@ -1,6 +1,7 @@
 #include "Cp1252.h"
 
 #include <array>
+#include <cstring>
 
 namespace ostrel::cp1252 {
 namespace {
@@ -16,8 +17,16 @@ constexpr std::array<char16_t, 32> kHighControls = {
 QString decode(QByteArrayView bytes) {
     // Outside 0x80 to 0x9F the code page is Latin-1, which Qt converts many bytes at a time.
     const auto* data = reinterpret_cast<const unsigned char*>(bytes.data());
+    const qsizetype size = bytes.size();
     bool latin1 = true;
-    for (qsizetype i = 0; i < bytes.size() && latin1; ++i)
+    qsizetype i = 0;
+    // Eight bytes at a time while all are plain ASCII, the usual text.
+    for (; i + 8 <= size; i += 8) {
+        quint64 word;
+        std::memcpy(&word, data + i, sizeof word);
+        if (word & 0x8080808080808080ULL) break;
+    }
+    for (; i < size && latin1; ++i)
         latin1 = data[i] < 0x80 || data[i] >= 0xA0;
     if (latin1) return QString::fromLatin1(bytes);
     QString out(bytes.size(), Qt::Uninitialized);

@@ -101,13 +101,13 @@ void DataRoot::noteChange(const QString& fullPath, bool created) const {
         l.byFoldedName.remove(name.toCaseFolded());
 }
 
-DataRoot::Entry DataRoot::resolve(const QString& name) const {
+QString DataRoot::spelledPath(const QString& name, qsizetype* partCount) const {
     // The name as spelled, put together in one pass: most names are found so, and every read and
-    // write comes here. The parts are split out only for the walk below.
+    // write comes here. The parts are split out only for the walk of resolve.
     QString exact;
     exact.reserve(m_root.size() + name.size() + 1);
     exact += m_root;
-    qsizetype partCount = 0;
+    qsizetype count = 0;
     qsizetype start = 0;
     for (qsizetype i = 0; i <= name.size(); ++i) {
         if (i < name.size() && name[i] != u'/' && name[i] != u'\\') continue;
@@ -117,18 +117,36 @@ DataRoot::Entry DataRoot::resolve(const QString& name) const {
         if (part == u".." || part.contains(QChar(0))) (void)parts(name); // throws, naming the name
         exact += u'/';
         exact += part;
-        ++partCount;
+        ++count;
     }
+    if (partCount) *partCount = count;
+    return exact;
+}
+
+DataRoot::Entry DataRoot::resolve(const QString& name) const {
+    qsizetype partCount = 0;
+    const QString exact = spelledPath(name, &partCount);
     Entry e = statPath(exact);
     if (e.exists() || partCount == 0) return e;
-    const QStringList ps = parts(name);
+    return walk(name, exact);
+}
 
-    // Not there as spelled: walk the parts and match each against its directory's listing.
+DataRoot::Entry DataRoot::resolveNotAsSpelled(const QString& name) const {
+    qsizetype partCount = 0;
+    const QString exact = spelledPath(name, &partCount);
+    return partCount == 0 ? statPath(exact) : walk(name, exact);
+}
+
+DataRoot::Entry DataRoot::walk(const QString& name, const QString& exact) const {
+    const QStringList ps = parts(name);
+    // Not there as spelled: walk the parts and match each against its directory's listing. The
+    // whole name as spelled is known to be missing, so it is not looked at again.
     QString current = m_root;
     for (qsizetype i = 0; i < ps.size(); ++i) {
         const QString& p = ps[i];
         QString candidate = current + u'/' + p;
-        Entry step = statPath(candidate);
+        Entry step;
+        if (candidate != exact) step = statPath(candidate);
         if (!step.exists()) {
             const Listing& l = listing(current);
             const auto it = l.byFoldedName.constFind(p.toCaseFolded());
@@ -151,7 +169,7 @@ DataRoot::Entry DataRoot::resolve(const QString& name) const {
         }
         current = candidate;
     }
-    return e;
+    return Entry{exact};
 }
 
 QStringList DataRoot::list(const QString& name) const {

@@ -38,6 +38,12 @@ public:
     // The entry a data name stands for. Throws StoreError for a name that would leave the root.
     Entry resolve(const QString& name) const;
     QString path(const QString& name) const { return resolve(name).path; }
+    // The same for a name already found missing as spelled (a failed open of spelledPath): the
+    // disk is searched for another spelling of it without looking at that path again.
+    Entry resolveNotAsSpelled(const QString& name) const;
+    // The path of a data name as spelled, without looking at the disk: where the name stands on a
+    // disk that spells it the same. Throws StoreError for a name that would leave the root.
+    QString spelledPath(const QString& name, qsizetype* partCount = nullptr) const;
 
     // Keep the case-insensitive look-up current when this program adds or removes an entry, without
     // listing a large directory again.
@@ -67,6 +73,7 @@ public:
 private:
     struct Listing;
     const Listing& listing(const QString& directory) const;
+    Entry walk(const QString& name, const QString& exact) const;
     void noteChange(const QString& fullPath, bool created) const;
 
     QString m_root;

@@ -83,17 +83,65 @@ RandomFile& DiskRoutines::Random(int n) {
     return *c.random;
 }
 
-TextReader DiskRoutines::ReadTextFile(const QString& name) {
-    const DataRoot::Entry e = m_root.resolve(name);
-    if (!e.isFile()) throw StoreError(name, QStringLiteral("File not found."));
-    return ReadTextFileAt(e.path, name);
+namespace {
+
+// A regular file's bytes, or nothing when no regular file stands at the path.
+std::optional<QByteArray> readRegularFile(const QString& path, const QString& name) {
+    int fd;
+    do fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    while (fd < 0 && errno == EINTR);
+    if (fd < 0) {
+        if (errno == ENOENT || errno == ENOTDIR) return std::nullopt;
+        throw StoreError(name, QStringLiteral("The file cannot be opened: ") + systemError());
+    }
+    struct Closer {
+        int fd;
+        ~Closer() { ::close(fd); }
+    } closer{fd};
+    struct stat st {};
+    if (::fstat(fd, &st) != 0) throw StoreError(name, QStringLiteral("The file cannot be opened: ") + systemError());
+    if (!S_ISREG(st.st_mode)) return std::nullopt;
+    // The bytes the file holds as it was measured on opening (or fewer, when it shrank meanwhile).
+    QByteArray bytes(static_cast<qsizetype>(st.st_size), Qt::Uninitialized);
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t n = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) throw StoreError(name, QStringLiteral("The file cannot be read: ") + systemError());
+        if (n == 0) break;
+        done += n;
+    }
+    bytes.resize(done);
+    return bytes;
+}
+
+} // namespace
+
+std::optional<TextReader> DiskRoutines::readIfFile(const QString& name) {
+    // Most names are spelled as on disk: opened straight away, with no look at the disk before.
+    if (std::optional<QByteArray> bytes = readRegularFile(m_root.spelledPath(name), name))
+        return TextReader(std::move(*bytes), name);
+    const DataRoot::Entry e = m_root.resolveNotAsSpelled(name);
+    if (!e.isFile()) return std::nullopt;
+    if (std::optional<QByteArray> bytes = readRegularFile(e.path, name)) return TextReader(std::move(*bytes), name);
+    return std::nullopt;
 }
 
 TextReader DiskRoutines::ReadTextFileAt(const QString& path, const QString& name) {
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        throw StoreError(name, QStringLiteral("The file cannot be opened: ") + f.errorString());
-    return TextReader(f.readAll(), name);
+    if (std::optional<QByteArray> bytes = readRegularFile(path, name)) return TextReader(std::move(*bytes), name);
+    throw StoreError(name, QStringLiteral("File not found."));
+}
+
+TextReader DiskRoutines::ReadTextFile(const QString& name) {
+    if (std::optional<TextReader> reader = readIfFile(name)) return std::move(*reader);
+    throw StoreError(name, QStringLiteral("File not found."));
+}
+
+std::optional<TextReader> DiskRoutines::ReadTextFileIfPresent(const QString& name) {
+    if (std::optional<TextReader> reader = readIfFile(name)) return reader;
+    if (!m_root.resolve(kBackup + name).isFile()) return std::nullopt;
+    CopyDataFile(kBackup + name, name);
+    return ReadTextFile(name);
 }
 
 TextReader& DiskRoutines::OpenForInput(const QString& name) {

@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace ostrel {
 
@@ -81,8 +82,11 @@ public:
     void PutRecords(const QString& name, int recordLength, qint64 firstRecord, const QByteArray& records);
     // The whole file for the field and line reads; throws when it is absent.
     TextReader ReadTextFile(const QString& name);
-    // The same for a file whose path a directory listing gave (DataRoot::files): no look-up of
-    // the name; `name` is the data name messages give.
+    // The same, or nothing when the file is absent (a copy in /Backup is restored first, as
+    // FileExists does): one look at the disk where FileExists and ReadTextFile take two.
+    std::optional<TextReader> ReadTextFileIfPresent(const QString& name);
+    // The whole file at a path a directory listing gave (DataRoot::files): no look-up of the
+    // name; `name` is the data name messages give. Throws when no file is there.
     TextReader ReadTextFileAt(const QString& path, const QString& name);
 
     // A file found damaged when it was read. The owner is told once a run (through the report
@@ -121,6 +125,7 @@ private:
     Channel& channel(int number, const char* kind);
     int openChannel(std::unique_ptr<Channel> ch);
     void commit(Channel& ch);
+    std::optional<TextReader> readIfFile(const QString& name);
     void writeWhole(const DataRoot::Entry& target, const QString& name, const QByteArray& bytes);
     DataRoot::Entry writableTarget(const QString& name) const;
     // Throws unless the file at this path may be written over (see ReportDamage).

@@ -44,6 +44,7 @@ long long FileOps::pwrite(int fd, const char* data, long long size, long long of
 }
 
 int FileOps::fsync(int fd) { return ::fsync(fd); }
+int FileOps::syncfs(int fd) { return ::syncfs(fd); }
 int FileOps::close(int fd) { return ::close(fd); }
 int FileOps::rename(const QByteArray& from, const QByteArray& to) { return ::rename(from.constData(), to.constData()); }
 int FileOps::unlink(const QByteArray& path) { return ::unlink(path.constData()); }

@@ -16,6 +16,8 @@ public:
     virtual long long write(int fd, const char* data, long long size);
     virtual long long pwrite(int fd, const char* data, long long size, long long offset);
     virtual int fsync(int fd);
+    // Syncs the whole file system that holds fd: one wait for many files written together.
+    virtual int syncfs(int fd);
     virtual int close(int fd);
     virtual int rename(const QByteArray& from, const QByteArray& to);
     virtual int unlink(const QByteArray& path);

@@ -38,7 +38,66 @@ void syncFolder(FileOps& ops, const QString& folder) {
     ops.close(fd);
 }
 
+thread_local ReplaceBatch* t_batch = nullptr;
+
 } // namespace
+
+ReplaceBatch::ReplaceBatch() : m_outer(t_batch) { t_batch = this; }
+
+ReplaceBatch::~ReplaceBatch() {
+    try {
+        commit();
+    } catch (const StoreError&) {
+        // Reported by the explicit commit, or an error is already on its way out of the batch.
+    }
+    t_batch = m_outer;
+}
+
+ReplaceBatch* ReplaceBatch::current() { return t_batch; }
+
+void ReplaceBatch::add(Pending p) {
+    // A file saved twice in one batch: the later bytes win, the earlier temporary goes.
+    for (Pending& earlier : m_pending)
+        if (earlier.target == p.target) {
+            FileOps::current().unlink(earlier.temp);
+            earlier = std::move(p);
+            return;
+        }
+    m_pending.push_back(std::move(p));
+}
+
+void ReplaceBatch::discardFrom(std::size_t first) {
+    for (std::size_t i = first; i < m_pending.size(); ++i) FileOps::current().unlink(m_pending[i].temp);
+    m_pending.clear();
+}
+
+void ReplaceBatch::commit() {
+    if (m_pending.empty()) return;
+    FileOps& ops = FileOps::current();
+    const QByteArray folder = QFile::encodeName(folderOf(QFile::decodeName(m_pending.front().target)));
+    const int fd = ops.open(folder, O_RDONLY | O_DIRECTORY, 0);
+    if (fd < 0 || ops.syncfs(fd) != 0) {
+        const int error = errno;
+        if (fd >= 0) ops.close(fd);
+        const QString name = m_pending.front().name;
+        discardFrom(0);
+        throw StoreError(name, QStringLiteral("The file could not be written: ") + systemError(error));
+    }
+    for (std::size_t i = 0; i < m_pending.size(); ++i) {
+        if (ops.rename(m_pending[i].temp, m_pending[i].target) == 0) continue;
+        const int error = errno;
+        const QString name = m_pending[i].name;
+        discardFrom(i);
+        ops.syncfs(fd);
+        ops.close(fd);
+        throw StoreError(name, QStringLiteral("The file could not be written: ") + systemError(error));
+    }
+    m_pending.clear();
+    // The renames are durable once the folders' entries are on disk; a failure here comes after
+    // every file has taken its place, so it is not reported as a failed save.
+    ops.syncfs(fd);
+    ops.close(fd);
+}
 
 void ReplaceFileWhole(const QString& path, const QString& name, const QByteArray& bytes) {
     FileOps& ops = FileOps::current();
@@ -57,10 +116,15 @@ void ReplaceFileWhole(const QString& path, const QString& name, const QByteArray
         throw StoreError(name, QStringLiteral("The file could not be written: ") + systemError(error));
     };
     if (ops.write(fd, bytes.constData(), bytes.size()) != bytes.size()) fail(errno ? errno : EIO);
-    if (ops.fsync(fd) != 0) fail(errno);
+    ReplaceBatch* batch = ReplaceBatch::current();
+    if (!batch && ops.fsync(fd) != 0) fail(errno);
     const int closed = ops.close(fd);
     fd = -1;
     if (closed != 0) fail(errno);
+    if (batch) {
+        batch->add({tempName, QFile::encodeName(path), name});
+        return;
+    }
     if (ops.rename(tempName, QFile::encodeName(path)) != 0) fail(errno);
     syncFolder(ops, folderOf(path));
 }

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 
 namespace ostrel {
 
@@ -179,26 +180,49 @@ qint64 TextReader::integerIn(const TextField& f, qint64 low, qint64 high) const 
                                  .arg(high));
 }
 
-TextField TextReader::readField() {
+TextReader::FieldSpan TextReader::scanField() {
     if (atEnd()) throwPastEnd();
-    while (m_pos < m_bytes.size() && isBlank(m_bytes[m_pos])) ++m_pos;
-    TextField f;
-    if (m_pos < m_bytes.size() && m_bytes[m_pos] == '"') {
+    const char* const data = m_bytes.constData();
+    const qsizetype size = m_bytes.size();
+    while (m_pos < size && isBlank(data[m_pos])) ++m_pos;
+    // Up to the next comma or line end: a field runs to its delimiter, whatever it holds.
+    const auto toDelimiter = [&](qsizetype from) {
+        while (from < size && data[from] != ',' && !isLineEnd(data[from])) ++from;
+        return from;
+    };
+    FieldSpan f;
+    if (m_pos < size && data[m_pos] == '"') {
         f.quoted = true;
-        const qsizetype start = ++m_pos;
-        while (m_pos < m_bytes.size() && m_bytes[m_pos] != '"') ++m_pos;
-        f.raw = m_bytes.mid(start, m_pos - start);
-        if (m_pos < m_bytes.size()) ++m_pos; // closing quote
+        f.start = ++m_pos;
+        const void* close = std::memchr(data + m_pos, '"', static_cast<size_t>(size - m_pos));
+        m_pos = close ? static_cast<const char*>(close) - data : size;
+        f.length = m_pos - f.start;
+        if (m_pos < size) ++m_pos; // closing quote
         else f.unterminated = true;
         // Whatever stands between the closing quote and the next delimiter is passed over.
-        while (m_pos < m_bytes.size() && m_bytes[m_pos] != ',' && !isLineEnd(m_bytes[m_pos])) ++m_pos;
+        m_pos = toDelimiter(m_pos);
     } else {
-        const qsizetype start = m_pos;
-        while (m_pos < m_bytes.size() && m_bytes[m_pos] != ',' && !isLineEnd(m_bytes[m_pos])) ++m_pos;
-        f.raw = m_bytes.mid(start, m_pos - start);
+        f.start = m_pos;
+        m_pos = toDelimiter(m_pos);
+        f.length = m_pos - f.start;
     }
     skipDelimiter();
     return f;
+}
+
+TextField TextReader::readField() {
+    const FieldSpan span = scanField();
+    TextField f;
+    f.raw = m_bytes.mid(span.start, span.length);
+    f.quoted = span.quoted;
+    f.unterminated = span.unterminated;
+    return f;
+}
+
+QString TextReader::readString() {
+    // The text straight from the file's bytes: most fields of most files are read this way.
+    const FieldSpan span = scanField();
+    return cp1252::decode(QByteArrayView(m_bytes).sliced(span.start, span.length));
 }
 
 QString TextReader::readLine() {

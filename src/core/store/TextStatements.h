@@ -64,7 +64,7 @@ public:
 
     // One comma- or line-delimited field. Throws StoreError at the end of the file.
     TextField readField();
-    QString readString() { return readField().toString(); }
+    QString readString();
     double readNumber() { return readField().toNumber(); }
     // A whole number (rounded half to even) that must lie within [low, high]: "nan", "inf", "1e300"
     // or a number out of range makes the file a bad file (StoreError naming it).
@@ -82,6 +82,14 @@ public:
     const QByteArray& bytes() const { return m_bytes; }
 
 private:
+    struct FieldSpan {
+        qsizetype start = 0;
+        qsizetype length = 0;
+        bool quoted = false;
+        bool unterminated = false;
+    };
+    // Finds the next field and moves past its delimiter; the field's bytes stay where they are.
+    FieldSpan scanField();
     void throwPastEnd() const;
     qint64 integerIn(const TextField& f, qint64 low, qint64 high) const;
     void skipDelimiter();
