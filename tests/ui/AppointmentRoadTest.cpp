@@ -6,6 +6,7 @@
 #include "invoicing/PostingRecords.h"
 
 #include <QLabel>
+#include <QTableView>
 
 using namespace ostrel;
 using ostrel::test::ProgramWindows;
@@ -154,12 +155,12 @@ TEST_F(ProgramWindows, TheRoadOfOneAppointmentFromAFirstRunToItsReprintAndTheSal
 
     // The month's sales of the associate, on screen and printed.
     ASSERT_NO_FATAL_FAILURE(test::OpenRoutine(*this, 4, "frmSales"));
-    auto* sales = ProgramWindows::child<QTableWidget>("frmSales", "fgSales");
+    auto* sales = ProgramWindows::child<QTableView>("frmSales", "fgSales");
     ASSERT_NE(sales, nullptr);
-    ASSERT_EQ(sales->rowCount(), 1);
-    EXPECT_EQ(sales->item(0, 0)->text(), "Ann Archer");
-    EXPECT_EQ(sales->item(0, 2)->text(), "20260001");
-    EXPECT_EQ(sales->item(0, 6)->text(), "$91.00");
+    ASSERT_EQ(sales->model()->rowCount(), 1);
+    EXPECT_EQ(sales->model()->index(0, 0).data().toString(), "Ann Archer");
+    EXPECT_EQ(sales->model()->index(0, 2).data().toString(), "20260001");
+    EXPECT_EQ(sales->model()->index(0, 6).data().toString(), "$91.00");
     EXPECT_EQ(ProgramWindows::child<QLabel>("frmSales", "lblTotal(3)")->text(), "$91.00");
     saveShot(*window("frmSales"), "road-11-sales");
     ASSERT_NO_FATAL_FAILURE(test::road::press("frmSales", "cmdSales(3)"));

@@ -8,12 +8,15 @@
 #include "setup/PointOfServiceNames.h"
 #include "shell/Session.h"
 #include "shell/frmStartup.h"
+#include "store/LocaleText.h"
+#include "store/Money.h"
 
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QScrollBar>
+#include <QTableView>
 
 #include <gtest/gtest.h>
 
@@ -81,7 +84,7 @@ TEST_F(SalesViewTest, EveryControlHasItsWidgetAndTheMonthIsLoaded) {
     EXPECT_EQ(find<QLabel>("Label1(6)")->text(), "Select Sales Associate");
     EXPECT_EQ(find<QComboBox>("cboAssociates")->accessibleName(), "Select Sales Associate");
     EXPECT_EQ(find<QComboBox>("cboAssociates")->count(), 2);
-    EXPECT_EQ(find<QTableWidget>("fgSales")->rowCount(), 5);
+    EXPECT_EQ(find<QTableView>("fgSales")->model()->rowCount(), 5);
     EXPECT_EQ(find<QLabel>("lblTotal(0)")->text(), "$625.00");
     saveShot(*view, "sales-month");
 }
@@ -94,9 +97,9 @@ TEST_F(SalesViewTest, PickingTheSecondAssociateAndLoadingShowsTheirSales) {
     test::settle();
     find<QPushButton>("cmdSales(1)")->click();
     test::settle();
-    auto* grid = find<QTableWidget>("fgSales");
-    EXPECT_EQ(grid->rowCount(), 2);
-    EXPECT_EQ(grid->item(0, 0)->text(), "Bob Stone");
+    auto* grid = find<QTableView>("fgSales");
+    EXPECT_EQ(grid->model()->rowCount(), 2);
+    EXPECT_EQ(grid->model()->index(0, 0).data().toString(), "Bob Stone");
     EXPECT_EQ(find<QLabel>("lblTotal(3)")->text(), "$260.00");
     saveShot(*view, "sales-crew-two");
 }
@@ -108,4 +111,55 @@ TEST_F(SalesViewTest, ShopRepairStyleHidesTheAssociateChoice) {
     test::settle();
     EXPECT_FALSE(find<QComboBox>("cboAssociates")->isVisible());
     EXPECT_FALSE(find<QLabel>("Label1(6)")->isVisible());
+}
+
+TEST_F(SalesViewTest, ABigJournalShowsItsFirstAndLastSalesAndTheirTotals) {
+    constexpr int kSales = 50000;
+    QByteArray bytes;
+    qint64 subTotal = 0;
+    qint64 tax = 0;
+    for (int i = 0; i < kSales; ++i) {
+        AssociateJournalRecord r;
+        r.Transaction = QString("Customer %1").arg(i);
+        r.Account = QString::number(30000000 + i);
+        r.JournalDate = QDate(2020, 1, 1).addDays(i % 2400);
+        r.Associate = i % 2 ? "Crew Two" : "Crew One";
+        r.SubTotal = Money::fromTenThousandths(100000 + 37 * i);
+        r.Tax = Money::fromTenThousandths(4000 + i % 13);
+        r.Gross = r.SubTotal + r.Tax;
+        subTotal += r.SubTotal.tenThousandths();
+        tax += r.Tax.tenThousandths();
+        bytes += r.toRecord().bytes();
+    }
+    t.writeBytes("/AssociateJournal.txt", bytes);
+    find<QPushButton>("cmdIncome(3)")->click();
+    test::settle();
+
+    auto* grid = find<QTableView>("fgSales");
+    QAbstractItemModel* m = grid->model();
+    ASSERT_EQ(m->rowCount(), kSales);
+    EXPECT_EQ(m->index(0, frmSales::kTransaction).data().toString(), "Customer 0");
+    EXPECT_EQ(m->index(0, frmSales::kDate).data().toString(), "1/1/2020");
+    EXPECT_EQ(m->index(0, frmSales::kAccount).data().toString(), "30000000");
+    EXPECT_EQ(m->index(0, frmSales::kSubTotal).data().toString(), "$10.00");
+    EXPECT_EQ(grid->rowAt(0), 0);
+
+    // Down to the end, as a person drags the scroll bar there.
+    grid->verticalScrollBar()->setValue(grid->verticalScrollBar()->maximum());
+    test::settle();
+    const int last = kSales - 1;
+    EXPECT_GE(grid->rowViewportPosition(last), 0);
+    EXPECT_LE(grid->rowViewportPosition(last) + grid->rowHeight(last), grid->viewport()->height());
+    EXPECT_EQ(m->index(last, frmSales::kTransaction).data().toString(), "Customer 49999");
+    EXPECT_EQ(m->index(last, frmSales::kDate).data().toString(), QDate(2020, 1, 1).addDays(last % 2400).toString("M/d/yyyy"));
+    EXPECT_EQ(m->index(last, frmSales::kNet).data().toString(),
+              FormatMoney(Money::fromTenThousandths(100000 + 37 * last + 4000 + last % 13)));
+    EXPECT_EQ(frm.fgSales.topRow, grid->verticalScrollBar()->value() + 1);
+
+    EXPECT_EQ(find<QLabel>("lblTotal(0)")->text(), FormatMoney(Money::fromTenThousandths(subTotal)));
+    EXPECT_EQ(find<QLabel>("lblTotal(2)")->text(), FormatMoney(Money::fromTenThousandths(tax)));
+    EXPECT_EQ(find<QLabel>("lblTotal(3)")->text(), FormatMoney(Money::fromTenThousandths(subTotal + tax)));
+    // Showing and scrolling only read the grid: its rows are still made on demand.
+    EXPECT_TRUE(frm.fgSales.HasRowSource());
+    saveShot(*view, "sales-big-journal-end");
 }

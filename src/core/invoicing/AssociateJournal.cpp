@@ -99,8 +99,8 @@ QVector<AssociateJournalRecord> AssociateJournalFromBytes(const QByteArray& byte
 }
 
 AssociateJournalBytes ReadAssociateJournalBytes(DiskRoutines& disk) {
-    if (!disk.FileExists(AssociateJournalRecord::kFileName)) return {};
-    return AssociateJournalBytes(disk.ReadTextFile(AssociateJournalRecord::kFileName).bytes());
+    const std::optional<TextReader> journal = disk.ReadTextFileIfPresent(AssociateJournalRecord::kFileName);
+    return journal ? AssociateJournalBytes(journal->bytes()) : AssociateJournalBytes();
 }
 
 QVector<AssociateJournalRecord> ReadAssociateJournal(DiskRoutines& disk) {

@@ -118,21 +118,20 @@ void frmReprint::Form_Activate() {
 
 bool frmReprint::ListImages() {
     m_damaged.clear();
-    QStringList names;
-    for (const QString& n : m_session.root.list(kFolder))
-        if (isImageName(n) && m_session.disk.PathIsFile(kFolder + u'/' + n)) names.append(n);
-    if (names.isEmpty()) {
+    QVector<DataRoot::ListedFile> images = m_session.root.files(kFolder);
+    images.removeIf([](const DataRoot::ListedFile& f) { return !isImageName(f.name); });
+    if (images.isEmpty()) {
         m_session.ShowMessage(QStringLiteral("No Completed Invoices Exist"), QString());
         ReturnToMenu();
         return false;
     }
 
-    fgReceivables.SetRows(static_cast<int>(names.size()) + 1);
+    fgReceivables.SetRows(static_cast<int>(images.size()) + 1);
     int row = 1;
-    for (const QString& n : names) {
-        const QString name = kFolder + u'/' + n;
+    for (const DataRoot::ListedFile& image : images) {
+        const QString name = kFolder + u'/' + image.name;
         try {
-            TextReader reader = m_session.disk.ReadTextFile(name);
+            TextReader reader = m_session.disk.ReadTextFileAt(image.path, name);
             const InvoiceImage head = ReadInvoiceImageHead(reader);
             const QDate date = InvoiceImage::parseDate(head.dateText);
             if (!date.isValid())

@@ -5,6 +5,8 @@
 #include "util/VbText.h"
 #include "store/LocaleText.h"
 
+#include <algorithm>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -151,14 +153,17 @@ QString saleCell(const AssociateJournalBytes& journal, qsizetype i, int column) 
 void frmSales::LoadGrid() {
     // A long journal is scanned on its bytes; a row's texts are made when something reads them.
     auto journal = std::make_shared<const AssociateJournalBytes>(ReadAssociateJournalBytes(m_session.disk));
-    auto sales = std::make_shared<std::vector<qsizetype>>();
+    // The records shown, by number: a grid's rows are counted in int.
+    const int count = static_cast<int>(std::min<qsizetype>(journal->count(), std::numeric_limits<int>::max() - 1));
+    auto sales = std::make_shared<std::vector<int>>();
+    sales->reserve(static_cast<size_t>(count));
     m_totals = Totals{};
     // The first entry of the list stands for every associate.
     const bool filtered = cboAssociates.listIndex > 0;
     const std::optional<QByteArray> associate =
         filtered ? AssociateJournalBytes::AssociateKey(vbTrim(cboAssociates.text)) : std::nullopt;
     if (!filtered || associate) {
-        for (qsizetype i = 0; i < journal->count(); ++i) {
+        for (int i = 0; i < count; ++i) {
             const QDate date = journal->journalDate(i);
             if (date < m_start || date > m_end) continue;
             if (filtered && !journal->associateIs(i, *associate)) continue;

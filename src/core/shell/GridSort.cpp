@@ -14,10 +14,30 @@ struct Key {
     QString text;
 };
 
+// True when the text cannot be a number: it holds a plain character no number form uses. Sorting a
+// long list by names then skips the number parser for each.
+bool plainlyText(QStringView t) {
+    for (const QChar ch : t) {
+        const char16_t u = ch.unicode();
+        if (u >= 0x80) return false; // left to the parser
+        if ((u >= u'0' && u <= u'9') || QStringView(u" .,+-eEiInNfFaAtTyYxXpP").contains(ch)) continue;
+        return true;
+    }
+    return t.isEmpty();
+}
+
 Key keyOf(const QString& cell) {
     Key k;
+    const QStringView t = QStringView(cell).trimmed();
+    // Whole numbers of up to 15 digits are exact doubles, as the parser would give them.
+    if (!t.isEmpty() && t.size() <= 15 && std::all_of(t.begin(), t.end(), [](QChar c) { return c >= u'0' && c <= u'9'; })) {
+        qint64 n = 0;
+        for (const QChar c : t) n = n * 10 + (c.unicode() - u'0');
+        k.number = static_cast<double>(n);
+        return k;
+    }
     bool ok = false;
-    const double d = cell.trimmed().toDouble(&ok);
+    const double d = plainlyText(t) ? 0 : t.toDouble(&ok);
     if (ok) k.number = d;
     else k.text = cell;
     return k;

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+
 #include <dirent.h>
 #include <sys/stat.h>
 
@@ -224,6 +226,24 @@ QStringList DataRoot::fileNames(const QString& name) const {
     forEachEntry(e.path, [&](const QString& n, Kind kind) {
         if (kind == Kind::File) out.append(n);
     });
+    return out;
+}
+
+QVector<DataRoot::ListedFile> DataRoot::files(const QString& name) const {
+    QVector<ListedFile> out;
+    const Entry e = resolve(name);
+    if (!e.isDirectory()) return out;
+    DIR* d = ::opendir(QFile::encodeName(e.path).constData());
+    if (!d) return out;
+    while (dirent* de = ::readdir(d)) {
+        if (de->d_type != DT_REG && de->d_type != DT_UNKNOWN && de->d_type != DT_LNK) continue;
+        const QString n = QFile::decodeName(de->d_name);
+        QString path = e.path + u'/' + n;
+        if (de->d_type != DT_REG && !statPath(path).isFile()) continue;
+        out.append(ListedFile{n, std::move(path)});
+    }
+    ::closedir(d);
+    std::sort(out.begin(), out.end(), [](const ListedFile& a, const ListedFile& b) { return a.name < b.name; });
     return out;
 }
 

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -62,6 +63,15 @@ public:
     // The names of the files (not folders) in a directory, as on disk, in no set order: one read
     // of the directory for callers that only list its files.
     QStringList fileNames(const QString& name) const;
+
+    // The files of a directory (no folders), sorted by name as list() sorts, each with its full
+    // path: one read of the directory and no look-up per file, for callers that read every file
+    // of a large one.
+    struct ListedFile {
+        QString name;
+        QString path;
+    };
+    QVector<ListedFile> files(const QString& name) const;
 
 private:
     struct Listing;

@@ -127,6 +127,11 @@ std::optional<TextReader> DiskRoutines::readIfFile(const QString& name) {
     return std::nullopt;
 }
 
+TextReader DiskRoutines::ReadTextFileAt(const QString& path, const QString& name) {
+    if (std::optional<QByteArray> bytes = readRegularFile(path, name)) return TextReader(std::move(*bytes), name);
+    throw StoreError(name, QStringLiteral("File not found."));
+}
+
 TextReader DiskRoutines::ReadTextFile(const QString& name) {
     if (std::optional<TextReader> reader = readIfFile(name)) return std::move(*reader);
     throw StoreError(name, QStringLiteral("File not found."));

@@ -85,6 +85,9 @@ public:
     // The same, or nothing when the file is absent (a copy in /Backup is restored first, as
     // FileExists does): one look at the disk where FileExists and ReadTextFile take two.
     std::optional<TextReader> ReadTextFileIfPresent(const QString& name);
+    // The whole file at a path a directory listing gave (DataRoot::files): no look-up of the
+    // name; `name` is the data name messages give. Throws when no file is there.
+    TextReader ReadTextFileAt(const QString& path, const QString& name);
 
     // A file found damaged when it was read. The owner is told once a run (through the report
     // hook), and nothing writes over the file or deletes it in this run unless the owner, asked

@@ -6,6 +6,7 @@
 #include "CommandButtonBinding.h"
 #include "FrameBinding.h"
 #include "GridBinding.h"
+#include "GridViewBinding.h"
 #include "ImageBinding.h"
 #include "LabelBinding.h"
 #include "LineEditBinding.h"
@@ -34,6 +35,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTextEdit>
 #include <QTimer>
@@ -140,6 +142,9 @@ void Binder::bind(QComboBox* w, ListControl& m) {
 void Binder::bind(QTableWidget* w, Grid& m) {
     add<GridBinding>(w, m);
 }
+void Binder::bind(QTableView* w, Grid& m) {
+    add<GridViewBinding>(w, m);
+}
 
 void Binder::bind(QDateEdit* w, DatePicker& m) {
     add<DatePickerBinding, QDateEdit>(w, m);
@@ -213,6 +218,7 @@ bool Binder::bindEntry(const ControlRegistry::Entry& entry) {
                     if (auto* w = qobject_cast<QComboBox*>(found)) return bind(w, *m), true;
                 } else if constexpr (std::is_same_v<M, Grid>) {
                     if (auto* w = qobject_cast<QTableWidget*>(found)) return bind(w, *m), true;
+                    if (auto* w = qobject_cast<QTableView*>(found)) return bind(w, *m), true;
                 } else if constexpr (std::is_same_v<M, DatePicker>) {
                     if (auto* w = qobject_cast<QDateEdit*>(found)) return bind(w, *m), true;
                     if (auto* w = qobject_cast<QCalendarWidget*>(found)) return bind(w, *m), true;

@@ -28,6 +28,7 @@ class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
 class QRadioButton;
+class QTableView;
 class QTableWidget;
 class QTextEdit;
 class QWidget;
@@ -78,6 +79,7 @@ public:
     void bind(QListWidget* widget, ListControl& model);
     void bind(QComboBox* widget, ListControl& model);
     void bind(QTableWidget* widget, Grid& model);
+    void bind(QTableView* widget, Grid& model); // through a model that asks for the cells shown
     void bind(QDateEdit* widget, DatePicker& model);
     void bind(QCalendarWidget* widget, DatePicker& model);
     void bind(QAbstractSlider* widget, UpDown& model);

@@ -1,4 +1,5 @@
 #include "GridBinding.h"
+#include "GridGeometry.h"
 #include "GridWheel.h"
 
 #include "platform/QtColour.h"
@@ -18,10 +19,6 @@ void setColour(QTableWidgetItem* item, int role, const QColor& colour) {
     } else if (!now.isValid() || now.value<QBrush>().color() != colour) {
         item->setData(role, QBrush(colour));
     }
-}
-
-int twipsToPixels(int twips, const QWidget* w) {
-    return twips * w->logicalDpiX() / 1440;
 }
 
 } // namespace
@@ -53,6 +50,9 @@ GridBinding::GridBinding(Binder& binder, QTableWidget* table, Grid& model)
         if (!pushing()) pull();
     });
 }
+
+int GridBinding::rowOffset() const { return gridRowOffset(m_model); }
+int GridBinding::colOffset() const { return gridColOffset(m_model); }
 
 QTableWidget* GridBinding::table() const {
     return qobject_cast<QTableWidget*>(target());

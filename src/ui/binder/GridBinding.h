@@ -25,8 +25,8 @@ protected:
 
 private:
     QTableWidget* table() const;
-    int rowOffset() const { return m_model.fixedRows > 0 ? 1 : 0; }
-    int colOffset() const { return m_model.fixedCols > 0 ? 1 : 0; }
+    int rowOffset() const;
+    int colOffset() const;
     void pushItem(QTableWidgetItem* item, int r, int c, bool fixed);
     void pushHeaders();
 

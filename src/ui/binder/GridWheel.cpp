@@ -4,7 +4,7 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
-#include <QTableWidget>
+#include <QTableView>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -15,12 +15,12 @@ namespace {
 constexpr int kNotch = 120; // one notch of a wheel, in eighths of a degree
 }
 
-GridWheel::GridWheel(QTableWidget* table) : QObject(table), m_table(table) {
+GridWheel::GridWheel(QTableView* table) : QObject(table), m_table(table) {
     setObjectName(QStringLiteral("GridWheel"));
     table->viewport()->installEventFilter(this);
 }
 
-void InstallGridWheel(QTableWidget* table) {
+void InstallGridWheel(QTableView* table) {
     if (!table || table->findChild<GridWheel*>(QString(), Qt::FindDirectChildrenOnly)) return;
     new GridWheel(table);
 }
@@ -45,10 +45,11 @@ void GridWheel::page(int rotation) {
     // Rows counted as the legacy grid counts them, from a heading row 0 above the first table row,
     // which is measured by the headings when they show and by the first row otherwise.
     const int offset = 1;
-    const int rows = m_table->rowCount() + offset;
-    const int headingHeight = m_table->horizontalHeader()->isVisible()
-                                  ? m_table->horizontalHeader()->height()
-                                  : (m_table->rowCount() > 0 ? m_table->rowHeight(0) : 0);
+    const int tableRows = m_table->model() ? m_table->model()->rowCount() : 0;
+    const int rows = tableRows + offset;
+    const int headingHeight = m_table->horizontalHeader()->isVisible() ? m_table->horizontalHeader()->height()
+                              : tableRows > 0                          ? m_table->rowHeight(0)
+                                                                       : 0;
     QScrollBar* bar = m_table->verticalScrollBar();
     const int top = bar->value() + offset;
     const int target = WheelTopRow(top, rows, m_table->height(), headingHeight, rotation);

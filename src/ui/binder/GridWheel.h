@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-class QTableWidget;
+class QTableView;
 
 namespace ostrel::ui {
 
@@ -12,18 +12,18 @@ namespace ostrel::ui {
 class GridWheel : public QObject {
     Q_OBJECT
 public:
-    explicit GridWheel(QTableWidget* table);
+    explicit GridWheel(QTableView* table);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void page(int rotation);
-    QTableWidget* m_table;
+    QTableView* m_table;
     int m_pending = 0;
 };
 
 // Installs the wheel on the grid once; a second call does nothing.
-void InstallGridWheel(QTableWidget* table);
+void InstallGridWheel(QTableView* table);
 
 } // namespace ostrel::ui

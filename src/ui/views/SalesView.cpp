@@ -14,7 +14,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStyledItemDelegate>
-#include <QTableWidget>
+#include <QTableView>
 #include <QVBoxLayout>
 
 namespace ostrel::ui {
@@ -66,12 +66,11 @@ SalesView::SalesView(Session& session, frmSales& screen) : ScreenView(session.pl
     filters->addStretch(1);
     main->addLayout(filters);
 
-    auto* table = named<QTableWidget>(QStringLiteral("fgSales"), this);
-    table->setColumnCount(7);
+    // A journal can hold many thousand sales: the view asks the grid for the rows in sight only.
+    auto* table = named<QTableView>(QStringLiteral("fgSales"), this);
     table->setAlternatingRowColors(true);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->horizontalHeader()->setSectionResizeMode(frmSales::kTransaction, QHeaderView::Stretch);
     table->setItemDelegate(new MoneyColumns(table));
     main->addWidget(table, 1);
 
@@ -113,6 +112,8 @@ SalesView::SalesView(Session& session, frmSales& screen) : ScreenView(session.pl
     wire();
     FollowScreen(*this, screen, session);
     binder().sync();
+    // The columns exist once the grid's model is there.
+    table->horizontalHeader()->setSectionResizeMode(frmSales::kTransaction, QHeaderView::Stretch);
 }
 
 void SalesView::wire() {
