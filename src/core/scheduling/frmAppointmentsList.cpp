@@ -30,8 +30,8 @@ bool listedBy(int routine, const AppointmentSlip& slip, const QDate& today) {
 QStringList frmAppointments::listSlipFiles() {
     QStringList files;
     // One read of the folder gives each entry's kind, without a look-up per file.
-    for (const QString& name : m_session.root.fileNames(kAppointmentsFolder))
-        if (name.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) files.append(name);
+    for (const DataRoot::ListedFile& f : m_session.root.files(kAppointmentsFolder))
+        if (f.name.endsWith(QLatin1String(".txt"), Qt::CaseInsensitive)) files.append(f.name);
     SortIgnoringCase(files);
     return files;
 }

@@ -219,30 +219,13 @@ QHash<QString, DataRoot::Listed> DataRoot::entries(const QString& name) const {
     return out;
 }
 
-QStringList DataRoot::fileNames(const QString& name) const {
-    QStringList out;
-    const Entry e = resolve(name);
-    if (!e.isDirectory()) return out;
-    forEachEntry(e.path, [&](const QString& n, Kind kind) {
-        if (kind == Kind::File) out.append(n);
-    });
-    return out;
-}
-
 QVector<DataRoot::ListedFile> DataRoot::files(const QString& name) const {
     QVector<ListedFile> out;
     const Entry e = resolve(name);
     if (!e.isDirectory()) return out;
-    DIR* d = ::opendir(QFile::encodeName(e.path).constData());
-    if (!d) return out;
-    while (dirent* de = ::readdir(d)) {
-        if (de->d_type != DT_REG && de->d_type != DT_UNKNOWN && de->d_type != DT_LNK) continue;
-        const QString n = QFile::decodeName(de->d_name);
-        QString path = e.path + u'/' + n;
-        if (de->d_type != DT_REG && !statPath(path).isFile()) continue;
-        out.append(ListedFile{n, std::move(path)});
-    }
-    ::closedir(d);
+    forEachEntry(e.path, [&](const QString& n, Kind kind) {
+        if (kind == Kind::File) out.append(ListedFile{n, e.path + u'/' + n});
+    });
     std::sort(out.begin(), out.end(), [](const ListedFile& a, const ListedFile& b) { return a.name < b.name; });
     return out;
 }

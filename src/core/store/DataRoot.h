@@ -60,9 +60,6 @@ public:
         Kind kind = Kind::Missing;
     };
     QHash<QString, Listed> entries(const QString& name) const;
-    // The names of the files (not folders) in a directory, as on disk, in no set order: one read
-    // of the directory for callers that only list its files.
-    QStringList fileNames(const QString& name) const;
 
     // The files of a directory (no folders), sorted by name as list() sorts, each with its full
     // path: one read of the directory and no look-up per file, for callers that read every file
