@@ -241,25 +241,25 @@ SaveKind ContractAndTermsKind() {
     const auto terms = [](const QString& words) {
         return QStringLiteral("%1 terms.\r\nPayment is due in 30 days.\r\nA late charge applies.").arg(words);
     };
-    k.prepare = [contract, terms](DiskRoutines& disk) {
-        disk.MakeDirectoryIfAbsent(QStringLiteral("\\Templates"));
-        disk.MakeDirectoryIfAbsent(kContractsFolder);
-        disk.ReplaceTextFile(contractFileName(kAccount), contract(QStringLiteral("Old")));
-        SaveCustomText(disk, kCustomTermsFile, terms(QStringLiteral("Old")));
-        SaveCustomText(disk, kCustomDisclaimerFile, QStringLiteral("Old disclaimer."));
+    // The contract as the contract screen writes it, both texts as the terms screen saves them and
+    // the statement terms the invoice screen keeps.
+    const auto saveTexts = [contract, terms](DiskRoutines& disk, const QString& age, const QString& disclaimer,
+                                             const QString& statementTerms) {
+        disk.ReplaceTextFile(contractFileName(kAccount), contract(age));
+        SaveCustomText(disk, kCustomTermsFile, terms(age));
+        SaveCustomText(disk, kCustomDisclaimerFile, disclaimer);
         TextWriter statement;
-        statement.print(QStringLiteral("Net 10 Days"));
+        statement.print(statementTerms);
         disk.ReplaceTextFile(invoicepage::kTermsFile, statement);
     };
-    k.save = [contract, terms](DiskRoutines& disk) {
-        // As the contract screen writes a merged contract, the terms screen saves both texts and
-        // the invoice screen keeps the statement terms chosen.
-        disk.ReplaceTextFile(contractFileName(kAccount), contract(QStringLiteral("New")));
-        SaveCustomText(disk, kCustomTermsFile, terms(QStringLiteral("New")));
-        SaveCustomText(disk, kCustomDisclaimerFile, QStringLiteral("New disclaimer, longer than the old one."));
-        TextWriter statement;
-        statement.print(QStringLiteral("Net 30 Days"));
-        disk.ReplaceTextFile(invoicepage::kTermsFile, statement);
+    k.prepare = [saveTexts](DiskRoutines& disk) {
+        disk.MakeDirectoryIfAbsent(QStringLiteral("\\Templates"));
+        disk.MakeDirectoryIfAbsent(kContractsFolder);
+        saveTexts(disk, QStringLiteral("Old"), QStringLiteral("Old disclaimer."), QStringLiteral("Net 10 Days"));
+    };
+    k.save = [saveTexts](DiskRoutines& disk) {
+        saveTexts(disk, QStringLiteral("New"), QStringLiteral("New disclaimer, longer than the old one."),
+                  QStringLiteral("Net 30 Days"));
     };
     return k;
 }

@@ -31,7 +31,10 @@ DiskRoutines::~DiskRoutines() {
 }
 
 bool DiskRoutines::FileExists(const QString& name) {
-    if (m_root.resolve(name).isFile()) return true;
+    return m_root.resolve(name).isFile() || restoreFromBackup(name);
+}
+
+bool DiskRoutines::restoreFromBackup(const QString& name) {
     if (!m_root.resolve(kBackup + name).isFile()) return false;
     CopyDataFile(kBackup + name, name);
     return true;
@@ -139,8 +142,7 @@ TextReader DiskRoutines::ReadTextFile(const QString& name) {
 
 std::optional<TextReader> DiskRoutines::ReadTextFileIfPresent(const QString& name) {
     if (std::optional<TextReader> reader = readIfFile(name)) return reader;
-    if (!m_root.resolve(kBackup + name).isFile()) return std::nullopt;
-    CopyDataFile(kBackup + name, name);
+    if (!restoreFromBackup(name)) return std::nullopt;
     return ReadTextFile(name);
 }
 

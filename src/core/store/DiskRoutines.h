@@ -126,6 +126,8 @@ private:
     int openChannel(std::unique_ptr<Channel> ch);
     void commit(Channel& ch);
     std::optional<TextReader> readIfFile(const QString& name);
+    // Copies the file's /Backup copy into its place; false when there is none.
+    bool restoreFromBackup(const QString& name);
     void writeWhole(const DataRoot::Entry& target, const QString& name, const QByteArray& bytes);
     DataRoot::Entry writableTarget(const QString& name) const;
     // Throws unless the file at this path may be written over (see ReportDamage).

@@ -1,6 +1,6 @@
 #include "GridBinding.h"
 #include "GridGeometry.h"
-#include "GridWheel.h"
+#include "GridTable.h"
 
 #include "platform/QtColour.h"
 
@@ -26,13 +26,7 @@ void setColour(QTableWidgetItem* item, int role, const QColor& colour) {
 GridBinding::GridBinding(Binder& binder, QTableWidget* table, Grid& model)
     : ControlBinding(binder, model, table), m_model(model) {
     ownDoubleClick();
-    // Cells change through the program only.
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setSelectionBehavior(QAbstractItemView::SelectItems);
-    table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    table->setSortingEnabled(false);
-    InstallGridWheel(table);
+    PrepareGridTable(table);
     connect(table, &QTableWidget::cellClicked, this, [this] {
         if (pushing()) return;
         pull();
@@ -117,16 +111,7 @@ void GridBinding::pushState() {
             pushItem(item, r, c, r < m_model.fixedRows || c < m_model.fixedCols);
         }
     }
-    if (m_model.colWidths != m_syncedWidths) {
-        m_syncedWidths = m_model.colWidths;
-        for (int c = 0; c < m_model.colWidths.size() && c < m_model.Cols(); ++c) {
-            const int px = twipsToPixels(m_model.colWidths[c], t);
-            if (c < co)
-                t->verticalHeader()->setFixedWidth(px);
-            else
-                t->setColumnWidth(c - co, px);
-        }
-    }
+    PushGridColumnWidths(t, m_model, m_syncedWidths);
     const int row = m_model.row - ro;
     const int col = m_model.col - co;
     if (row >= 0 && row < rows && col >= 0 && col < cols) {
@@ -134,10 +119,7 @@ void GridBinding::pushState() {
     } else if (t->currentRow() >= 0 && m_model.row < ro) {
         t->setCurrentCell(-1, -1);
     }
-    if (m_model.topRow != m_syncedTopRow) {
-        m_syncedTopRow = m_model.topRow;
-        t->verticalScrollBar()->setValue(std::max(0, m_model.topRow - ro));
-    }
+    PushGridTopRow(t, m_model, m_syncedTopRow);
 }
 
 } // namespace ostrel::ui

@@ -1,6 +1,6 @@
 #include "GridViewBinding.h"
 #include "GridGeometry.h"
-#include "GridWheel.h"
+#include "GridTable.h"
 
 #include "platform/QtColour.h"
 
@@ -81,13 +81,7 @@ GridViewBinding::GridViewBinding(Binder& binder, QTableView* table, Grid& model)
     ownDoubleClick();
     m_cells->setFixedBackground(table->palette().color(QPalette::Button));
     table->setModel(m_cells);
-    // Cells change through the program only.
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setSelectionBehavior(QAbstractItemView::SelectItems);
-    table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    table->setSortingEnabled(false);
-    InstallGridWheel(table);
+    PrepareGridTable(table);
     connect(table, &QTableView::clicked, this, [this] {
         if (pushing()) return;
         pull();
@@ -130,16 +124,7 @@ void GridViewBinding::pushState() {
     m_cells->refresh();
     const int rows = m_cells->rowCount();
     const int cols = m_cells->columnCount();
-    if (m_model.colWidths != m_syncedWidths) {
-        m_syncedWidths = m_model.colWidths;
-        for (int c = 0; c < m_model.colWidths.size() && c < m_model.Cols(); ++c) {
-            const int px = twipsToPixels(m_model.colWidths[c], t);
-            if (c < co)
-                t->verticalHeader()->setFixedWidth(px);
-            else
-                t->setColumnWidth(c - co, px);
-        }
-    }
+    PushGridColumnWidths(t, m_model, m_syncedWidths);
     const int row = m_model.row - ro;
     const int col = m_model.col - co;
     if (row >= 0 && row < rows && col >= 0 && col < cols) {
@@ -148,10 +133,7 @@ void GridViewBinding::pushState() {
     } else if (t->currentIndex().isValid() && m_model.row < ro) {
         t->setCurrentIndex(QModelIndex());
     }
-    if (m_model.topRow != m_syncedTopRow) {
-        m_syncedTopRow = m_model.topRow;
-        t->verticalScrollBar()->setValue(std::max(0, m_model.topRow - ro));
-    }
+    PushGridTopRow(t, m_model, m_syncedTopRow);
 }
 
 } // namespace ostrel::ui
