@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace ostrel::bench {
@@ -22,6 +23,25 @@ inline double medianMs(int runs, const std::function<void()>& work, const std::f
     }
     std::sort(ms.begin(), ms.end());
     return ms[ms.size() / 2];
+}
+
+// The medians of two pieces of work timed in turn, run by run, so that both meet the same state of
+// the machine (a ratio of two medians taken minutes apart says more about the machine than the code).
+inline std::pair<double, double> pairedMediansMs(int runs, const std::function<void()>& first,
+                                                 const std::function<void()>& second) {
+    std::vector<double> a, b;
+    for (int i = 0; i < runs; ++i) {
+        QElapsedTimer t;
+        t.start();
+        first();
+        a.push_back(t.nsecsElapsed() / 1e6);
+        t.restart();
+        second();
+        b.push_back(t.nsecsElapsed() / 1e6);
+    }
+    std::sort(a.begin(), a.end());
+    std::sort(b.begin(), b.end());
+    return {a[a.size() / 2], b[b.size() / 2]};
 }
 
 inline void report(const char* what, double ms) { std::printf("%-58s %10.2f ms\n", what, ms); }

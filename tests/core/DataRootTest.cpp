@@ -75,3 +75,39 @@ TEST(DataRoot, ANameMissingAsSpelledIsStillFoundUnderTheDisksSpelling) {
     EXPECT_EQ(t.root().spelledPath(QStringLiteral("\\auxfiles\\./Other.txt")), t.full("/auxfiles/Other.txt"));
     EXPECT_THROW(t.root().spelledPath(QStringLiteral("/AuxFiles/../../x")), StoreError);
 }
+
+TEST(DataRoot, NamesBeyondPlainAsciiMatchWithoutRegardToCaseToo) {
+    TestDataRoot t;
+    t.writeBytes(QStringLiteral("/Zoë Ärzte/Ñame.txt"), "x");
+    const auto e = t.root().resolve(QStringLiteral("/ZOË ärzte/ñAME.TXT"));
+    EXPECT_TRUE(e.isFile());
+    EXPECT_EQ(e.path, t.full(QStringLiteral("/Zoë Ärzte/Ñame.txt")));
+    EXPECT_EQ(t.disk().ReadTextFile(QStringLiteral("/zoë ÄRZTE/ñame.txt")).bytes(), QByteArray("x"));
+    const auto listed = t.root().entries(QStringLiteral("/"));
+    EXPECT_TRUE(listed.contains(QStringLiteral("Zoë Ärzte").toCaseFolded()));
+}
+
+TEST(DataRoot, AMissingNameUnderAFileKeepsItsSpellingAndFindsNothing) {
+    TestDataRoot t;
+    t.writeBytes("/Backup", "a file, not a folder");
+    const auto e = t.root().resolve(QStringLiteral("/backup/Holidays.txt"));
+    EXPECT_FALSE(e.exists());
+    EXPECT_EQ(e.path, t.full("/Backup/Holidays.txt"));
+    EXPECT_FALSE(t.disk().ReadTextFileIfPresent("/Holidays.txt").has_value());
+}
+
+TEST(DataRoot, EveryWayOfWritingANameSpellsTheSamePath) {
+    TestDataRoot t;
+    const QString path = t.full("/Appointments/1 - 324-1.txt");
+    for (const char* name : {"/Appointments/1 - 324-1.txt", "Appointments/1 - 324-1.txt", "\\Appointments\\1 - 324-1.txt",
+                             "//Appointments//1 - 324-1.txt/", "/./Appointments/./1 - 324-1.txt", "/Appointments\\1 - 324-1.txt"}) {
+        qsizetype parts = 0;
+        EXPECT_EQ(t.root().spelledPath(QString::fromLatin1(name), &parts), path) << name;
+        EXPECT_EQ(parts, 2) << name;
+    }
+    for (const char* name : {"", "/", "\\", "/./"}) {
+        qsizetype parts = -1;
+        EXPECT_EQ(t.root().spelledPath(QString::fromLatin1(name), &parts), t.root().root()) << name;
+        EXPECT_EQ(parts, 0) << name;
+    }
+}

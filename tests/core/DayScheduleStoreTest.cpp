@@ -287,3 +287,25 @@ TEST(LegacyDaySchedules, FixtureRowsReadAsTheScreensShowThem) {
     EXPECT_EQ(checkSlotFit(reserved, 1, 1, FreeRowScan::BlockOnly).refusal, kNotContiguousText);
     EXPECT_EQ(readDaySchedule(t.disk(), 2026, 3, 330).slot(1), QString::fromUtf8("Miss Zo\u00eb O'Brien"));
 }
+
+TEST(DaySchedule, ATakenSlotGivesItsTextOnceAndIsLeftFree) {
+    DaySchedule day;
+    day.setSlot(5, QStringLiteral("Smith"));
+    EXPECT_EQ(day.takeSlot(5), "Smith");
+    EXPECT_TRUE(day.isFree(5));
+    EXPECT_EQ(day.takeSlot(5), QString());
+    EXPECT_EQ(day.takeSlot(0), QString());
+    EXPECT_EQ(day.takeSlot(49), QString());
+}
+
+TEST(DaySchedule, TextsHandedToAGridAreTheGridsAndTheDayIsLeftEmpty) {
+    DaySchedule day;
+    for (int r = kFirstTimeSlot; r <= kLastTimeSlot; ++r) day.setSlot(r, QStringLiteral("row %1").arg(r));
+    Grid g;
+    g.SetRows(kDayGridRows);
+    g.SetCols(2);
+    for (int r = kFirstTimeSlot; r <= kLastTimeSlot; ++r) g.SetTextMatrix(r, kSlotTextColumn, day.takeSlot(r));
+    EXPECT_EQ(g.TextMatrix(1, kSlotTextColumn), "row 1");
+    EXPECT_EQ(g.TextMatrix(48, kSlotTextColumn), "row 48");
+    EXPECT_TRUE(day.isEmpty());
+}

@@ -318,3 +318,30 @@ TEST(ReadTextFile, AFileThatCannotBeOpenedIsNamedInTheError) {
         EXPECT_TRUE(e.problem().startsWith("The file cannot be opened")) << e.problem().toStdString();
     }
 }
+
+TEST(ReadTextFile, AReaderKeptWhileOtherFilesAreReadKeepsItsOwnBytes) {
+    TestDataRoot t;
+    t.writeBytes("/One.txt", "\"one\"\r\n");
+    t.writeBytes("/Two.txt", "\"second file, longer\"\r\n");
+    TextReader one = t.disk().ReadTextFile("/One.txt");
+    {
+        TextReader two = t.disk().ReadTextFile("/Two.txt");
+        EXPECT_EQ(two.readString(), "second file, longer");
+    }
+    // Read again once the second reader is gone: the buffer is used again, the first reader's not.
+    EXPECT_EQ(t.disk().ReadTextFile("/Two.txt").bytes(), QByteArray("\"second file, longer\"\r\n"));
+    EXPECT_EQ(t.disk().ReadTextFile("/One.txt").bytes(), QByteArray("\"one\"\r\n"));
+    EXPECT_EQ(one.bytes(), QByteArray("\"one\"\r\n"));
+    EXPECT_EQ(one.readString(), "one");
+}
+
+TEST(ReadTextFile, AFileLargerThanTheSharedBufferAndASmallOneAfterItReadWhole) {
+    TestDataRoot t;
+    const QByteArray big = QByteArray("\"") + QByteArray(200 * 1024, 'x') + "\"\r\n";
+    t.writeBytes("/Big.txt", big);
+    t.writeBytes("/Small.txt", "\"s\"\r\n");
+    EXPECT_EQ(t.disk().ReadTextFile("/Small.txt").bytes(), QByteArray("\"s\"\r\n"));
+    const TextReader whole = t.disk().ReadTextFile("/Big.txt");
+    EXPECT_EQ(whole.bytes(), big);
+    EXPECT_EQ(t.disk().ReadTextFile("/Small.txt").bytes(), QByteArray("\"s\"\r\n"));
+}

@@ -72,3 +72,22 @@ TEST(Cp1252, EveryByteReadsAndWritesBackUnchanged) {
     EXPECT_EQ(cp1252::decode("\x80"), QString(QChar(0x20AC)));
     EXPECT_EQ(cp1252::encode(QString(QChar(0x4E2D))), QByteArray("?"));
 }
+
+TEST(Cp1252, AHighByteReadsTheSameWhereverItStandsInALongText) {
+    // Plain text is widened many bytes at a time; a byte of the high half may stand in any of those
+    // blocks, or in the few bytes after the last one.
+    for (const char high : {'\x80', '\x9f', '\xe9', '\xff'}) {
+        for (int length = 1; length <= 40; ++length) {
+            for (int at = 0; at < length; ++at) {
+                QByteArray text(length, 'a');
+                for (int i = 0; i < length; ++i) text[i] = static_cast<char>('A' + i % 26);
+                text[at] = high;
+                QString expected;
+                for (const char b : text) expected += cp1252::decode(QByteArray(1, b));
+                ASSERT_EQ(cp1252::decode(text), expected) << "length " << length << ", high byte at " << at;
+            }
+        }
+    }
+    EXPECT_EQ(cp1252::decode(QByteArray(33, 'z')), QString(33, u'z'));
+    EXPECT_EQ(cp1252::decode(QByteArray()), QString());
+}

@@ -128,6 +128,7 @@ QString Grid::TextMatrix(int r, int c) const {
 }
 
 void Grid::SetTextMatrix(int r, int c, const QString& text) { cellRef(r, c).text = text; }
+void Grid::SetTextMatrix(int r, int c, QString&& text) { cellRef(r, c).text = std::move(text); }
 
 Colour Grid::CellBackColor(int r, int c) const {
     if (r < 0 || r >= Rows() || c < 0 || c >= m_cols) return kNoColour;

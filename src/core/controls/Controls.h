@@ -112,6 +112,7 @@ struct Grid : Control {
     void SetCols(int cols);
     QString TextMatrix(int r, int c) const;
     void SetTextMatrix(int r, int c, const QString& text);
+    void SetTextMatrix(int r, int c, QString&& text); // takes the text over, no copy
     Colour CellBackColor(int r, int c) const;
     void SetCellBackColor(int r, int c, const Colour& color);
     Colour CellForeColor(int r, int c) const;

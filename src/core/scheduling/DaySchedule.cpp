@@ -3,11 +3,16 @@
 #include "store/StoreError.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ostrel {
 
 QString DaySchedule::slot(int row) const {
     return isSlotRow(row) ? m_slots[row - kFirstTimeSlot] : QString();
+}
+
+QString DaySchedule::takeSlot(int row) {
+    return isSlotRow(row) ? std::exchange(m_slots[row - kFirstTimeSlot], QString()) : QString();
 }
 
 void DaySchedule::setSlot(int row, const QString& text) {

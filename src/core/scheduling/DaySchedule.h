@@ -16,6 +16,8 @@ class DaySchedule {
 public:
     // Rows outside 1..48 read as empty and cannot be set.
     QString slot(int row) const;
+    // The text of a slot, moved out: the slot is left empty. For a day that is shown and dropped.
+    QString takeSlot(int row);
     void setSlot(int row, const QString& text);
     bool isFree(int row) const { return isSlotRow(row) && m_slots[row - kFirstTimeSlot].isEmpty(); }
     bool isEmpty() const;

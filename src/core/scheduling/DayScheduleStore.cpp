@@ -2,29 +2,47 @@
 
 #include "store/DiskRoutines.h"
 
+#include <charconv>
+
 namespace ostrel {
 
-// Names are put together piece by piece: every day file shown or searched comes through here.
+namespace {
+
+// Names are put together piece by piece, in one string: every day file shown or searched comes
+// through here.
+void appendNumber(QString& name, int value, int width = 0) {
+    char digits[16];
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, value);
+    const qsizetype length = end.ptr - digits;
+    for (qsizetype pad = length; pad < width; ++pad)
+        name += u'0';
+    name += QLatin1String(digits, length);
+}
+
+} // namespace
+
 QString yearDirectory(int year) {
     if (year < 0) return QStringLiteral("/%1").arg(year, 4, 10, QLatin1Char('0'));
-    QString name(1, u'/');
-    const QString digits = QString::number(year);
-    if (digits.size() < 4) name += QString(4 - digits.size(), u'0');
-    return name += digits;
+    QString name;
+    name.reserve(48);
+    name += u'/';
+    appendNumber(name, year, 4);
+    return name;
 }
 
 QString dayScheduleDirectory(int year, int pointOfService) {
     QString name = yearDirectory(year);
-    name.reserve(name.size() + 24);
     name += u"/DaySchedules";
-    return name += QString::number(pointOfService);
+    appendNumber(name, pointOfService);
+    return name;
 }
 
 QString daySchedulePath(int year, int pointOfService, int dayOfYear) {
     QString name = dayScheduleDirectory(year, pointOfService);
     name += u'/';
-    name += QString::number(dayOfYear);
-    return name += u".txt";
+    appendNumber(name, dayOfYear);
+    name += u".txt";
+    return name;
 }
 
 void EnsureDayScheduleDirectories(DiskRoutines& disk, const QDate& date, int pointOfServiceCount) {

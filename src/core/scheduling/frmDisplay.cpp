@@ -133,7 +133,7 @@ void frmDisplay::ShowDay() {
         // Line r goes to row r: row 0 stays empty, and line 48 has no row.
         g.SetTextMatrix(0, kSlotTextColumn, QString());
         for (int r = kFirstTimeSlot; r < kLastTimeSlot; ++r)
-            g.SetTextMatrix(r, kSlotTextColumn, d.slot(r));
+            g.SetTextMatrix(r, kSlotTextColumn, d.takeSlot(r));
         g.SetTextMatrix(kLastTimeSlot, kSlotTextColumn, QString());
     }
 }

@@ -1,12 +1,14 @@
 #include "DiskRoutines.h"
 
 #include "FileOps.h"
+#include "NativePath.h"
 #include "SafeReplace.h"
 #include "StoreError.h"
 
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <cmath>
 #include <cstring>
@@ -88,10 +90,27 @@ RandomFile& DiskRoutines::Random(int n) {
 
 namespace {
 
+// The buffer a file is read into. Small files share one, used again as soon as nothing holds the
+// last file's bytes: a fresh block of a kilobyte or more for every file would make the allocator
+// sweep up all the small blocks freed before it (the texts of the last day shown), and the texts
+// made from the new file would then be carved out the slow way.
+QByteArray& readBuffer(qsizetype size, QByteArray& own) {
+    constexpr qsizetype kSharedUpTo = 64 * 1024;
+    if (size > kSharedUpTo) {
+        own = QByteArray(size, Qt::Uninitialized);
+        return own;
+    }
+    thread_local QByteArray shared;
+    if (!shared.isDetached() || shared.capacity() > 4 * std::max<qsizetype>(size, 4096))
+        shared = QByteArray(); // still held by a reader, or too big to lend for a small file
+    shared.resize(size);
+    return shared;
+}
+
 // A regular file's bytes, or nothing when no regular file stands at the path.
 std::optional<QByteArray> readRegularFile(const QString& path, const QString& name) {
     int fd;
-    do fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    do fd = ::open(nativePath(path).constData(), O_RDONLY | O_CLOEXEC);
     while (fd < 0 && errno == EINTR);
     if (fd < 0) {
         if (errno == ENOENT || errno == ENOTDIR) return std::nullopt;
@@ -105,7 +124,8 @@ std::optional<QByteArray> readRegularFile(const QString& path, const QString& na
     if (::fstat(fd, &st) != 0) throw StoreError(name, QStringLiteral("The file cannot be opened: ") + systemError());
     if (!S_ISREG(st.st_mode)) return std::nullopt;
     // The bytes the file holds as it was measured on opening (or fewer, when it shrank meanwhile).
-    QByteArray bytes(static_cast<qsizetype>(st.st_size), Qt::Uninitialized);
+    QByteArray own;
+    QByteArray& bytes = readBuffer(static_cast<qsizetype>(st.st_size), own);
     qsizetype done = 0;
     while (done < bytes.size()) {
         const ssize_t n = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
@@ -160,7 +180,7 @@ DataRoot::Entry DiskRoutines::writableTarget(const QString& name) const {
     if (e.isDirectory()) throw StoreError(name, QStringLiteral("A folder of that name is in the way."));
     const QString parent = e.path.left(e.path.lastIndexOf(u'/'));
     struct stat st {};
-    if (::stat(QFile::encodeName(parent).constData(), &st) != 0 || !S_ISDIR(st.st_mode))
+    if (::stat(nativePath(parent).constData(), &st) != 0 || !S_ISDIR(st.st_mode))
         throw StoreError(name, QStringLiteral("The folder that should hold this file does not exist."));
     return e;
 }
@@ -291,7 +311,7 @@ void DiskRoutines::DeleteDataFile(const QString& name) {
     const DataRoot::Entry e = m_root.resolve(name);
     if (!e.isFile()) return;
     mayWriteOver(e.path, name);
-    if (FileOps::current().unlink(QFile::encodeName(e.path)) != 0)
+    if (FileOps::current().unlink(nativePath(e.path)) != 0)
         throw StoreError(name, QStringLiteral("The file could not be deleted: ") + systemError());
     m_root.noteRemoved(e.path);
 }
@@ -305,7 +325,7 @@ void DiskRoutines::MakeDirectoryIfAbsent(const QString& name) {
     const DataRoot::Entry e = m_root.resolve(name);
     if (e.isDirectory()) return;
     if (e.exists()) throw StoreError(name, QStringLiteral("A file of that name is in the way of the folder."));
-    if (::mkdir(QFile::encodeName(e.path).constData(), 0777) != 0)
+    if (::mkdir(nativePath(e.path).constData(), 0777) != 0)
         throw StoreError(name, QStringLiteral("The folder could not be made: ") + systemError());
     m_root.noteCreated(e.path);
 }
@@ -313,7 +333,7 @@ void DiskRoutines::MakeDirectoryIfAbsent(const QString& name) {
 void DiskRoutines::RemoveDataDirectory(const QString& name) {
     const DataRoot::Entry e = m_root.resolve(name);
     if (!e.isDirectory()) throw StoreError(name, QStringLiteral("Path not found."));
-    if (::rmdir(QFile::encodeName(e.path).constData()) != 0)
+    if (::rmdir(nativePath(e.path).constData()) != 0)
         throw StoreError(name, QStringLiteral("The folder could not be removed: ") + systemError());
     m_root.noteRemoved(e.path);
 }

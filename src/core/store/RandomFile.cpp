@@ -1,9 +1,9 @@
 #include "RandomFile.h"
 
 #include "FileOps.h"
+#include "NativePath.h"
 #include "StoreError.h"
 
-#include <QFile>
 
 #include <cmath>
 #include <cerrno>
@@ -21,7 +21,7 @@ QString systemError() { return QString::fromLocal8Bit(std::strerror(errno)); }
 RandomFile::RandomFile(const QString& path, const QString& name, int recordLength)
     : m_name(name), m_length(recordLength) {
     if (recordLength <= 0) throw StoreError(name, QStringLiteral("The record length must be positive."));
-    m_fd = FileOps::current().open(QFile::encodeName(path), O_RDWR | O_CREAT, 0666);
+    m_fd = FileOps::current().open(nativePath(path), O_RDWR | O_CREAT, 0666);
     if (m_fd < 0) throw StoreError(name, QStringLiteral("The file cannot be opened: ") + systemError());
     struct stat st {};
     if (::fstat(m_fd, &st) != 0) {

@@ -1,9 +1,9 @@
 #include "SafeReplace.h"
 
 #include "FileOps.h"
+#include "NativePath.h"
 #include "StoreError.h"
 
-#include <QFile>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 
@@ -32,7 +32,7 @@ QString temporaryPath(const QString& path) {
 // The rename is durable once the folder's entry is on disk. A failure here comes after the new
 // file has taken its place, so it is not reported as a failed save.
 void syncFolder(FileOps& ops, const QString& folder) {
-    const int fd = ops.open(QFile::encodeName(folder), O_RDONLY | O_DIRECTORY, 0);
+    const int fd = ops.open(nativePath(folder), O_RDONLY | O_DIRECTORY, 0);
     if (fd < 0) return;
     ops.fsync(fd);
     ops.close(fd);
@@ -74,7 +74,7 @@ void ReplaceBatch::discardFrom(std::size_t first) {
 void ReplaceBatch::commit() {
     if (m_pending.empty()) return;
     FileOps& ops = FileOps::current();
-    const QByteArray folder = QFile::encodeName(folderOf(QFile::decodeName(m_pending.front().target)));
+    const QByteArray folder = nativePath(folderOf(pathFromNative(m_pending.front().target)));
     const int fd = ops.open(folder, O_RDONLY | O_DIRECTORY, 0);
     if (fd < 0 || ops.syncfs(fd) != 0) {
         const int error = errno;
@@ -105,11 +105,11 @@ void ReplaceFileWhole(const QString& path, const QString& name, const QByteArray
     int fd = -1;
     for (int attempt = 0; attempt < 100 && fd < 0; ++attempt) {
         temp = temporaryPath(path);
-        fd = ops.open(QFile::encodeName(temp), O_WRONLY | O_CREAT | O_EXCL, 0666);
+        fd = ops.open(nativePath(temp), O_WRONLY | O_CREAT | O_EXCL, 0666);
         if (fd < 0 && errno != EEXIST) break;
     }
     if (fd < 0) throw StoreError(name, QStringLiteral("The file could not be written: ") + systemError(errno));
-    const QByteArray tempName = QFile::encodeName(temp);
+    const QByteArray tempName = nativePath(temp);
     const auto fail = [&](int error) {
         if (fd >= 0) ops.close(fd);
         ops.unlink(tempName);
@@ -122,23 +122,23 @@ void ReplaceFileWhole(const QString& path, const QString& name, const QByteArray
     fd = -1;
     if (closed != 0) fail(errno);
     if (batch) {
-        batch->add({tempName, QFile::encodeName(path), name});
+        batch->add({tempName, nativePath(path), name});
         return;
     }
-    if (ops.rename(tempName, QFile::encodeName(path)) != 0) fail(errno);
+    if (ops.rename(tempName, nativePath(path)) != 0) fail(errno);
     syncFolder(ops, folderOf(path));
 }
 
 void MoveFileOver(const QString& fromPath, const QString& toPath, const QString& name) {
     FileOps& ops = FileOps::current();
-    if (ops.rename(QFile::encodeName(fromPath), QFile::encodeName(toPath)) != 0)
+    if (ops.rename(nativePath(fromPath), nativePath(toPath)) != 0)
         throw StoreError(name, QStringLiteral("The file could not be renamed: ") + systemError(errno));
     syncFolder(ops, folderOf(toPath));
 }
 
 void SyncFile(const QString& path, const QString& name) {
     FileOps& ops = FileOps::current();
-    const int fd = ops.open(QFile::encodeName(path), O_RDONLY, 0);
+    const int fd = ops.open(nativePath(path), O_RDONLY, 0);
     if (fd < 0) throw StoreError(name, QStringLiteral("The file cannot be opened: ") + systemError(errno));
     const int synced = ops.fsync(fd);
     const int error = errno;

@@ -153,12 +153,12 @@ void TextReader::throwPastEnd() const {
 
 void TextReader::skipDelimiter() {
     if (m_pos >= m_bytes.size()) return;
-    const char c = m_bytes[m_pos];
+    const char c = m_bytes.at(m_pos);
     if (c == ',') {
         ++m_pos;
     } else if (c == '\r') {
         ++m_pos;
-        if (m_pos < m_bytes.size() && m_bytes[m_pos] == '\n') ++m_pos;
+        if (m_pos < m_bytes.size() && m_bytes.at(m_pos) == '\n') ++m_pos;
     } else if (c == '\n') {
         ++m_pos;
     }
@@ -228,10 +228,10 @@ QString TextReader::readString() {
 QString TextReader::readLine() {
     if (atEnd()) throwPastEnd();
     const qsizetype start = m_pos;
-    while (m_pos < m_bytes.size() && !isLineEnd(m_bytes[m_pos])) ++m_pos;
+    while (m_pos < m_bytes.size() && !isLineEnd(m_bytes.at(m_pos))) ++m_pos;
     const QString line = cp1252::decode(QByteArrayView(m_bytes).sliced(start, m_pos - start));
-    if (m_pos < m_bytes.size() && m_bytes[m_pos] == '\r') ++m_pos;
-    if (m_pos < m_bytes.size() && m_bytes[m_pos] == '\n') ++m_pos;
+    if (m_pos < m_bytes.size() && m_bytes.at(m_pos) == '\r') ++m_pos;
+    if (m_pos < m_bytes.size() && m_bytes.at(m_pos) == '\n') ++m_pos;
     return line;
 }
 
