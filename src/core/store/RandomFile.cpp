@@ -4,7 +4,6 @@
 #include "NativePath.h"
 #include "StoreError.h"
 
-
 #include <cmath>
 #include <cerrno>
 #include <cstring>
